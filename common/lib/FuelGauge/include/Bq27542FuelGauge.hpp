@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <memory>
+#include <mutex>
+#include <string_view>
+#include <utility>
+
+#include "FuelGaugeIF.hpp"
+#include "FuelGaugeProperty.hpp"
+#include "FuelGaugeStatus.hpp"
+#include "KespExport.hpp"
+#include "PropertyInfo.hpp"
+#include "PropertyValue.hpp"
+
+namespace dral {
+
+/// A Texas Instruments BQ27542 as the kernel's power_supply class serves it. Most callers get one
+/// from the factory (see `FuelGaugeIF`); build one directly to read a gauge of another name:
+///
+///     Bq27542FuelGauge gauge{"",
+///     Bq27542FuelGauge::PropertyMapAt("/sys/class/power_supply/bq27542-1")};
+///
+/// Thread-safe but for `UpdateResetPropertyValues`. Every read opens its file anew.
+class KESP_EXPORT Bq27542FuelGauge : public FuelGaugeIF {
+ public:
+  /// The properties of the device `bq27542-0`. All are read-only but the lifetime record.
+  static const PropertyInfo NamePropertyInfo;
+  static const PropertyInfo TechnologyPropertyInfo;
+  static const PropertyInfo StatusPropertyInfo;
+  static const PropertyInfo PresentPropertyInfo;
+  static const PropertyInfo VoltageNowPropertyInfo;
+  static const PropertyInfo CurrentNowPropertyInfo;
+  static const PropertyInfo StateOfChargePropertyInfo;
+  static const PropertyInfo ChargeLevelPropertyInfo;
+  static const PropertyInfo TemperaturePropertyInfo;
+  static const PropertyInfo NominalAvailableCapacityPropertyInfo;
+  static const PropertyInfo FullChargeCapacityPropertyInfo;
+  static const PropertyInfo CycleCountPropertyInfo;
+  static const PropertyInfo PowerAveragePropertyInfo;
+  static const PropertyInfo HealthPropertyInfo;
+  static const PropertyInfo TimeToEmptyPropertyInfo;
+  static const PropertyInfo LifetimeDataPropertyInfo;
+
+  /// @return the sixteen properties with their files in @p directory instead, for the constructor
+  static std::unique_ptr<PropertyMap> PropertyMapAt(std::string_view directory);
+
+  /// @param lifetimeResetPath a lifetime override file (see `LifetimeDataParser`); empty: none
+  /// @param propertyMap copied; null: the properties of `bq27542-0`
+  /// @throws std::invalid_argument, std::out_of_range when a value in the override file is no
+  /// number
+  ///         or too large
+  /// @throws std::bad_variant_access when there is an override file but @p propertyMap has no
+  ///         lifetime entry, or one that holds no record
+  explicit Bq27542FuelGauge(std::string_view lifetimeResetPath,
+                            std::unique_ptr<PropertyMap> propertyMap = nullptr);
+  ~Bq27542FuelGauge() override;
+
+  /// Reads the lifetime reset value anew from an override file; an empty path changes nothing.
+  /// Not thread-safe: no other call on this object may run meanwhile.
+  /// @throws as the constructor
+  void UpdateResetPropertyValues(std::string_view lifetimeResetPath);
+
+  /// Writes every property's descriptor to the log, at level 3.
+  /// @throws std::bad_variant_access when a descriptor cannot be written (see `PropertyInfo`)
+  void DumpPropertyMap() const;
+
+ protected:
+  FuelGaugeStatus DoSet(FuelGaugeProperty property, PropertyValue value) override;
+  std::pair<FuelGaugeStatus, PropertyValue> DoGet(FuelGaugeProperty property,
+                                                  PropertyValue value) override;
+  FuelGaugeStatus DoReset(FuelGaugeProperty property) override;
+
+ private:
+  static PropertyMap DefaultPropertyMap();
+
+  PropertyMap propertyMap;
+  std::mutex mutex;
+};
+
+}  // namespace dral

@@ -1,0 +1,93 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <memory>
+#include <string_view>
+#include <type_traits>
+#include <utility>
+#include <variant>
+
+#include "FuelGaugeProperty.hpp"
+#include "FuelGaugeStatus.hpp"
+#include "IF.hpp"
+#include "InterfaceFactory.hpp"
+#include "KespExport.hpp"
+#include "PropertyValue.hpp"
+
+namespace dral {
+
+/// A battery fuel gauge. Get one from the factory:
+///
+///     auto gauge = InterfaceFactory::Create<FuelGaugeIF, std::string_view>("Bq27542FuelGauge",
+///     ""); auto [status, microvolts] = gauge->Get<int>(FuelGaugeProperty::VoltageNow);
+///
+/// The second argument is the path of a lifetime override file (see `LifetimeDataParser`), empty
+/// for none. Creation throws when that file holds a value that is no number, and when memory runs
+/// out; the operations answer with a status and throw nothing but what is not a `std::exception`
+/// (and `std::bad_alloc`, when there is no memory left to pass a value along).
+///
+/// Thread-safe: any thread may call any operation at any time; the operations on one object never
+/// overlap. Two objects, or two processes, do not exclude each other.
+class KESP_EXPORT FuelGaugeIF {
+ public:
+  FuelGaugeIF();
+  virtual ~FuelGaugeIF();
+
+  /// Writes @p value to @p property, as text or, for a `LifetimeData`, as the binary record.
+  /// @return Success once the file was opened and written, even when the kernel then refused the
+  ///         value; FileError when the file is missing or cannot be opened; Failure when the
+  ///         property is unknown or not settable
+  FuelGaugeStatus Set(FuelGaugeProperty property, PropertyValue value);
+
+  /// Reads @p property as the alternative that @p hint holds. The answer always holds that
+  /// alternative, but for `LifetimeDataResetValue`, which answers the value as it is kept.
+  /// @return Success and the value. As a string: FileError or NoData and an empty string; as a
+  ///         record: FileError and the default record, or NoData and what could be read of it; as
+  ///         a number or bool: Failure and @p hint unchanged when the file is missing, unreadable
+  ///         or holds no number that fits. Failure and @p hint for an unknown property.
+  std::pair<FuelGaugeStatus, PropertyValue> Get(FuelGaugeProperty property, PropertyValue hint) {
+    return DoGet(property, std::move(hint));
+  }
+
+  /// Reads @p property as a @p T, one of the alternatives of `PropertyValue`.
+  /// @return as above with the hint `T{}`; Failure and `T{}` when the answer holds another type
+  template <typename T>
+  std::pair<FuelGaugeStatus, T> Get(FuelGaugeProperty property) {
+    static_assert(std::is_constructible_v<PropertyValue, std::in_place_type_t<T>>,
+                  "T must be one of the alternatives of PropertyValue");
+    auto [status, value] = Get(property, PropertyValue{std::in_place_type<T>});
+    if (auto* held = std::get_if<T>(&value)) {
+      return {status, std::move(*held)};
+    }
+    return {FuelGaugeStatus::Failure, T{}};
+  }
+
+  /// Writes the property's reset value.
+  /// @return as `Set`
+  FuelGaugeStatus Reset(FuelGaugeProperty property);
+
+ protected:
+  /// What an implementation supplies; each serves the operation of its name. They may be called
+  /// from several threads at once.
+  virtual FuelGaugeStatus DoSet(FuelGaugeProperty property, PropertyValue value) = 0;
+  virtual std::pair<FuelGaugeStatus, PropertyValue> DoGet(FuelGaugeProperty property,
+                                                          PropertyValue hint) = 0;
+  virtual FuelGaugeStatus DoReset(FuelGaugeProperty property) = 0;
+
+ private:
+  class Impl;
+  std::unique_ptr<Impl> impl;
+};
+
+/// The gauges that the library offers: "Bq27542FuelGauge", and the same as "DefaultIF". Declared
+/// here and defined in the library alone, so that every module of a process asks one registry.
+template <>
+template <>
+KESP_EXPORT IF<FuelGaugeIF>::Constructors<std::string_view>
+    IF<FuelGaugeIF>::ifConstructors<std::string_view>;
+
+extern template KESP_EXPORT std::unique_ptr<FuelGaugeIF>
+InterfaceFactory::Create<FuelGaugeIF, std::string_view>(std::string_view name,
+                                                        std::string_view arg);
+
+}  // namespace dral

@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+
+namespace dral {
+
+/// How an operation on a gauge property ended.
+enum class FuelGaugeStatus : std::uint32_t {
+  /// The operation was carried out. A write reports it once the file is open, even when the kernel
+  /// then refuses the value: read back what matters.
+  Success = 0,
+  /// Refused (the property is not settable) or failed otherwise: the property is unknown, or its
+  /// text is not a number that fits.
+  Failure = 2,
+  /// The property's file does not exist or cannot be opened.
+  FileError = 3,
+  /// The file was opened, but nothing usable could be read from it.
+  NoData = 4,
+};
+
+}  // namespace dral

@@ -1,0 +1,92 @@
+// SPDX-License-Identifier: MIT
+#include "Bq27542FuelGauge.hpp"
+
+#include <cstdint>
+#include <exception>
+
+#include "LifetimeDataParser.hpp"
+#include "Log.hpp"
+#include "Readable.hpp"
+#include "Writable.hpp"
+
+namespace dral {
+
+Bq27542FuelGauge::Bq27542FuelGauge(std::string_view lifetimeResetPath,
+                                   std::unique_ptr<PropertyMap> propertyMap) {
+  if (propertyMap) {
+    KESP_LOG(LogProgress) << "Bq27542FuelGauge constructor using passed in property map ";
+    this->propertyMap = *propertyMap;
+  } else {
+    KESP_LOG(LogProgress) << "Bq27542FuelGauge constructor using default property map ";
+    this->propertyMap = DefaultPropertyMap();
+  }
+  if (!lifetimeResetPath.empty()) {
+    KESP_LOG(LogProgress) << "Bq27542FuelGauge constructor overwriting lifetime reset data "
+                          << lifetimeResetPath;
+    UpdateResetPropertyValues(lifetimeResetPath);
+  }
+}
+
+Bq27542FuelGauge::~Bq27542FuelGauge() = default;
+
+void Bq27542FuelGauge::UpdateResetPropertyValues(std::string_view lifetimeResetPath) {
+  if (lifetimeResetPath.empty()) {
+    return;
+  }
+  // A map without the entry gets an empty one here, whose text is no record: get throws.
+  PropertyValue& resetValue = propertyMap[FuelGaugeProperty::LifetimeData].resetValue;
+  resetValue =
+      LifetimeDataParser(lifetimeResetPath, std::get<LifetimeData>(resetValue)).GetLifetimeData();
+}
+
+// In the three operations the lock is released before the failure is logged: a slow log must not
+// hold up the other threads.
+
+FuelGaugeStatus Bq27542FuelGauge::DoSet(FuelGaugeProperty property, PropertyValue value) {
+  try {
+    const std::scoped_lock lock(mutex);
+    return Writable(property, propertyMap).Set(std::move(value));
+  } catch (const std::exception& exception) {
+    KESP_LOG(LogFailure) << "Failed to set property: " << static_cast<std::uint32_t>(property)
+                         << "ex: " << exception.what();
+    return FuelGaugeStatus::Failure;
+  }
+}
+
+std::pair<FuelGaugeStatus, PropertyValue> Bq27542FuelGauge::DoGet(FuelGaugeProperty property,
+                                                                  PropertyValue value) {
+  if (property == FuelGaugeProperty::LifetimeDataResetValue) {
+    // Without the lock, since the map does not change, and so that no slow bus holds it up.
+    const auto entry = propertyMap.find(FuelGaugeProperty::LifetimeData);
+    return {FuelGaugeStatus::Success,
+            entry != propertyMap.end() ? entry->second.resetValue : LifetimeData{}};
+  }
+  try {
+    const std::scoped_lock lock(mutex);
+    return Readable(property, propertyMap).Get(value);
+  } catch (const std::exception& exception) {
+    KESP_LOG(LogFailure) << "Failed to get property: " << static_cast<std::uint32_t>(property)
+                         << "ex: " << exception.what();
+    return {FuelGaugeStatus::Failure, std::move(value)};
+  }
+}
+
+FuelGaugeStatus Bq27542FuelGauge::DoReset(FuelGaugeProperty property) {
+  try {
+    const std::scoped_lock lock(mutex);
+    return Writable(property, propertyMap).Reset();
+  } catch (const std::exception& exception) {
+    KESP_LOG(LogFailure) << "Failed to reset property: " << static_cast<std::uint32_t>(property)
+                         << "ex: " << exception.what();
+    return FuelGaugeStatus::Failure;
+  }
+}
+
+void Bq27542FuelGauge::DumpPropertyMap() const {
+  for (const auto& [property, info] : propertyMap) {
+    KESP_LOG(LogFailure) << "Type: " << static_cast<std::uint32_t>(property) << " : " << info
+                         << "\n";
+  }
+}
+
+}  // namespace dral

@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: MIT
+#include "Bq27542FuelGauge.hpp"
+#include "FuelGaugeIF.hpp"
+#include "IFConstructor.hpp"
+
+namespace dral {
+
+template KESP_EXPORT std::unique_ptr<Bq27542FuelGauge>
+IFConstructor<Bq27542FuelGauge, std::string_view>(std::string_view arg);
+
+template <>
+template <>
+IF<FuelGaugeIF>::Constructors<std::string_view> IF<FuelGaugeIF>::ifConstructors<std::string_view> =
+    {
+        {"DefaultIF", &IFConstructor<Bq27542FuelGauge, std::string_view>},
+        {"Bq27542FuelGauge", &IFConstructor<Bq27542FuelGauge, std::string_view>},
+};
+
+template KESP_EXPORT std::unique_ptr<FuelGaugeIF>
+InterfaceFactory::Create<FuelGaugeIF, std::string_view>(std::string_view name,
+                                                        std::string_view arg);
+
+}  // namespace dral

@@ -1,0 +1,102 @@
+// SPDX-License-Identifier: MIT
+#include "Readable.hpp"
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <limits>
+#include <stdexcept>
+
+#include "Decimal.hpp"
+
+namespace dral {
+namespace {
+
+using Answer = std::pair<FuelGaugeStatus, PropertyValue>;
+
+// Reads the file as the alternative that a hint holds.
+struct ReadAs {
+  const std::string& location;
+
+  Answer operator()(const std::string& /*hint*/) const {
+    auto [status, text] = Readable::GetTextFileContents(location);
+    text.erase(std::remove(text.begin(), text.end(), '\n'), text.end());
+    return {status, std::move(text)};
+  }
+
+  // A failed read leaves no text, which is no number: the conversions below turn it into an
+  // exception, and so what they answer is always a success.
+  Answer operator()(int /*hint*/) const {
+    const auto [status, text] = Readable::GetTextFileContents(location);
+    return {status, int{DecimalToInt32(text)}};
+  }
+
+  Answer operator()(unsigned int /*hint*/) const {
+    const auto [status, text] = Readable::GetTextFileContents(location);
+    const std::uint64_t value = DecimalToUint64(text);
+    if (value > std::numeric_limits<std::uint32_t>::max()) {
+      KESP_LOG(LogFailure) << "Value out of range for unsigned int: " << value;
+      throw std::out_of_range(text);
+    }
+    return {status, static_cast<unsigned int>(value)};
+  }
+
+  Answer operator()(bool /*hint*/) const {
+    const auto [status, text] = Readable::GetTextFileContents(location);
+    return {status, DecimalToInt32(text) == 1};
+  }
+
+  Answer operator()(const LifetimeData& /*hint*/) const {
+    return Readable::GetBinaryFileContents<LifetimeData>(location);
+  }
+};
+
+}  // namespace
+
+std::pair<FuelGaugeStatus, PropertyValue> Readable::Get(PropertyValue hint) const {
+  const auto entry = propertyMap.find(property);
+  if (entry == propertyMap.end()) {
+    KESP_LOG(LogFailure) << "Readable Missing FuelGaugeProperty definition: "
+                         << static_cast<std::uint32_t>(property);
+    throw std::logic_error("Readable Missing FuelGaugeProperty definition");
+  }
+  const std::string& location = entry->second.location;
+  if (location.empty()) {
+    KESP_LOG(LogFailure) << "FuelGaugeProperty:" << static_cast<std::uint32_t>(property)
+                         << "not resettable, filepath empty";
+    throw std::logic_error("Readable Missing FuelGaugeProperty filepath");
+  }
+  return std::visit(ReadAs{location}, hint);
+}
+
+std::pair<FuelGaugeStatus, std::string> Readable::GetTextFileContents(const std::string& path) {
+  std::filebuf file;
+  file.pubsetbuf(nullptr, 0);  // the block below is the only buffer
+  if (file.open(path, std::ios::in) == nullptr) {
+    const int error = errno;
+    KESP_LOG(LogFailure) << "Readable::Get failed to open file: " << path
+                         << "error: " << std::strerror(error);
+    return {FuelGaugeStatus::FileError, {}};
+  }
+  std::string text;
+  std::array<char, 4096> block;  // a page: the most that a sysfs attribute holds
+  std::streamsize count = 0;
+  do {
+    // A dead bus shows up on read, not on open. The stream buffer throws what read answered; the
+    // text that came before it is no text to trust.
+    try {
+      count = file.sgetn(block.data(), block.size());
+    } catch (const std::ios_base::failure&) {
+      text.clear();
+      break;
+    }
+    text.append(block.data(), static_cast<std::size_t>(count));
+  } while (count == std::streamsize{block.size()});
+  if (text.empty()) {
+    KESP_LOG(LogFailure) << "Bad or No data encountered in file:" << path;
+    return {FuelGaugeStatus::NoData, {}};
+  }
+  return {FuelGaugeStatus::Success, std::move(text)};
+}
+
+}  // namespace dral

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "Readable.hpp"
 
-#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <limits>
@@ -20,7 +19,7 @@ struct ReadAs {
 
   Answer operator()(const std::string& /*hint*/) const {
     auto [status, text] = Readable::GetTextFileContents(location);
-    text.erase(std::remove(text.begin(), text.end(), '\n'), text.end());
+    std::erase(text, '\n');
     return {status, std::move(text)};
   }
 

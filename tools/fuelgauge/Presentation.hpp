@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <FuelGaugeStatus.hpp>
+#include <PropertyValue.hpp>
+#include <nlohmann/json.hpp>
+#include <string>
+#include <string_view>
+
+/// JSON objects keep their members in the order of the properties and fields.
+using Json = nlohmann::ordered_json;
+
+/// @return the enumerator's name
+std::string_view StatusName(dral::FuelGaugeStatus status);
+
+/// @return `{"status": …, "value": …}`; the value is null unless the status is Success
+Json ToJson(dral::FuelGaugeStatus status, const dral::PropertyValue& value);
+
+/// Prints @p json, readable and with a newline; bytes that are not UTF-8 are replaced.
+void Print(const Json& json);
+
+/// Prints one row of a table: a name, a value and what is worth saying beside it.
+void PrintRow(std::string_view name, const std::string& value, const std::string& remark);
+
+/// Prints a row for each field of the record.
+void PrintFields(const dral::LifetimeData& data);
+
+/// Prints "fuelgauge: @p text" to standard error.
+void Complain(std::string_view text);

@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+/// The unit in which the kernel or the gauge counts a number.
+enum class Unit {
+  None,
+  Microvolt,
+  Microampere,
+  Percent,
+  TenthDegreeCelsius,
+  MicroampereHour,
+  Microwatt,
+  Second,
+  Millivolt,
+  Milliampere,
+};
+
+/// @return @p number as it was read, such as "3786000 µV"
+std::string Raw(std::int64_t number, Unit unit);
+
+/// @return @p number in the unit that people use, such as "3.786 V"; rounded to its last digit
+std::string ForPeople(std::int64_t number, Unit unit);
+
+/// @return @p text with blanks after it, up to @p width characters (of UTF-8, not bytes)
+std::string PadTo(std::size_t width, std::string text);

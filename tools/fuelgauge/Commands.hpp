@@ -14,11 +14,11 @@
 ExitStatus List(dral::FuelGaugeIF& gauge, bool json);
 
 /// @param type the alternative of `dral::PropertyValue` to read as; none: the natural one
-ExitStatus Get(dral::FuelGaugeIF& gauge, const std::string& property,
+ExitStatus Get(dral::FuelGaugeIF& gauge, const std::string& name,
                const std::optional<dral::PropertyValue>& type, bool json);
 
 /// @param values "FIELD=VALUE" for the lifetime record, one text for any other property
-ExitStatus Set(dral::FuelGaugeIF& gauge, const std::string& property,
+ExitStatus Set(dral::FuelGaugeIF& gauge, const std::string& name,
                const std::vector<std::string>& values);
 
-ExitStatus Reset(dral::FuelGaugeIF& gauge, const std::string& property);
+ExitStatus Reset(dral::FuelGaugeIF& gauge, const std::string& name);

@@ -36,6 +36,7 @@ ExitStatus Run(int argc, char** argv) {
   CLI::App app("Reads, writes and resets the properties of a BQ27542 battery fuel gauge.",
                "fuelgauge");
   app.require_subcommand(0, 1);  // none is refused below: CLI11 would not name a wrong word
+  app.fallthrough();             // the options below may stand behind the command as well
   app.set_version_flag("--version", "fuelgauge " KESP_VERSION);
   app.add_option("--device", options.device,
                  "Folder of the gauge, instead of /sys/class/power_supply/bq27542-0")
@@ -43,7 +44,7 @@ ExitStatus Run(int argc, char** argv) {
   app.add_option("--lifetime-file", options.lifetimeFile,
                  "Fields that replace those of the lifetime record's reset value")
       ->type_name("FILE")
-      ->check(CLI::ExistingFile);
+      ->check(CLI::Validator(CLI::ExistingFile).description(""));
   app.add_flag("-v,--verbose", options.verbose, "Show the library's log on standard error");
 
   CLI::App* const list = app.add_subcommand("list", "Show every property");
@@ -53,7 +54,7 @@ ExitStatus Run(int argc, char** argv) {
   get->add_option("PROPERTY", options.property, "One of the names that 'list' shows")->required();
   get->add_option("--as", options.type, "Read it as string, int, uint, bool or lifetime")
       ->type_name("TYPE")
-      ->check(CLI::IsMember(Types));
+      ->check(CLI::IsMember(Types).description(""));
   get->add_flag("--json", options.json, "Answer in JSON");
 
   CLI::App* const set = app.add_subcommand("set", "Write the lifetime record, and read it back");

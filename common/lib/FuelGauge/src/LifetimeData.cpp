@@ -17,37 +17,37 @@ constexpr std::size_t ReservedOffset = 12;
 static_assert(sizeof(LifetimeData) == Bytes{}.size());
 
 // Two bytes, the low one first, whatever the host's own order is.
-void Put(char* to, std::uint16_t value) {
-  to[0] = static_cast<char>(value & 0xFFU);
-  to[1] = static_cast<char>(value >> 8U);
+void Put(Bytes& bytes, std::size_t offset, std::uint16_t value) {
+  bytes[offset] = static_cast<char>(value & 0xFFU);
+  bytes[offset + 1] = static_cast<char>(value >> 8U);
 }
 
-std::uint16_t Take(const char* from) {
-  const unsigned low = static_cast<unsigned char>(from[0]);
-  const unsigned high = static_cast<unsigned char>(from[1]);
+std::uint16_t Take(const Bytes& bytes, std::size_t offset) {
+  const unsigned low = static_cast<unsigned char>(bytes[offset]);
+  const unsigned high = static_cast<unsigned char>(bytes[offset + 1]);
   return static_cast<std::uint16_t>(low | high << 8U);
 }
 
 Bytes Encode(const LifetimeData& data) {
   Bytes bytes{};
-  Put(&bytes[0], static_cast<std::uint16_t>(data.maxTemp));
-  Put(&bytes[2], static_cast<std::uint16_t>(data.minTemp));
-  Put(&bytes[4], data.maxPackVoltage);
-  Put(&bytes[6], data.minPackVoltage);
-  Put(&bytes[8], static_cast<std::uint16_t>(data.maxChargeCurrent));
-  Put(&bytes[10], static_cast<std::uint16_t>(data.maxDischargeCurrent));
+  Put(bytes, 0, static_cast<std::uint16_t>(data.maxTemp));
+  Put(bytes, 2, static_cast<std::uint16_t>(data.minTemp));
+  Put(bytes, 4, data.maxPackVoltage);
+  Put(bytes, 6, data.minPackVoltage);
+  Put(bytes, 8, static_cast<std::uint16_t>(data.maxChargeCurrent));
+  Put(bytes, 10, static_cast<std::uint16_t>(data.maxDischargeCurrent));
   std::copy(data.reserved.begin(), data.reserved.end(), bytes.begin() + ReservedOffset);
   return bytes;
 }
 
 LifetimeData Decode(const Bytes& bytes) {
   LifetimeData data;
-  data.maxTemp = static_cast<std::int16_t>(Take(&bytes[0]));
-  data.minTemp = static_cast<std::int16_t>(Take(&bytes[2]));
-  data.maxPackVoltage = Take(&bytes[4]);
-  data.minPackVoltage = Take(&bytes[6]);
-  data.maxChargeCurrent = static_cast<std::int16_t>(Take(&bytes[8]));
-  data.maxDischargeCurrent = static_cast<std::int16_t>(Take(&bytes[10]));
+  data.maxTemp = static_cast<std::int16_t>(Take(bytes, 0));
+  data.minTemp = static_cast<std::int16_t>(Take(bytes, 2));
+  data.maxPackVoltage = Take(bytes, 4);
+  data.minPackVoltage = Take(bytes, 6);
+  data.maxChargeCurrent = static_cast<std::int16_t>(Take(bytes, 8));
+  data.maxDischargeCurrent = static_cast<std::int16_t>(Take(bytes, 10));
   std::copy(bytes.begin() + ReservedOffset, bytes.end(), data.reserved.begin());
   return data;
 }

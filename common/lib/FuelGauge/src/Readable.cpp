@@ -78,7 +78,8 @@ std::pair<FuelGaugeStatus, std::string> Readable::GetTextFileContents(const std:
     return {FuelGaugeStatus::FileError, {}};
   }
   std::string text;
-  std::array<char, 4096> block;  // a page: the most that a sysfs attribute holds
+  // A page, the most that a sysfs attribute holds; the read fills what it uses.
+  std::array<char, 4096> block;  // NOLINT(cppcoreguidelines-pro-type-member-init)
   std::streamsize count = 0;
   do {
     // A dead bus shows up on read, not on open. The stream buffer throws what read answered; the

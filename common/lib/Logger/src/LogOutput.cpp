@@ -54,8 +54,9 @@ struct Output {
   LogOutput::Sink sink;
 };
 
-// Never destroyed: a static object's destructor may still log.
 Output& TheOutput() {
+  // Never destroyed: a static object's destructor may still log.
+  // NOLINTNEXTLINE(cppcoreguidelines-owning-memory)
   static auto* const output = new Output;
   return *output;
 }

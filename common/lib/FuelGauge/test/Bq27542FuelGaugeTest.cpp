@@ -1,0 +1,234 @@
+// SPDX-License-Identifier: MIT
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <Bq27542FuelGauge.hpp>
+
+#include <algorithm>
+#include <chrono>
+#include <future>
+#include <locale>
+#include <thread>
+
+#include "support/LogCapture.hpp"
+#include "support/Outcome.hpp"
+#include "support/TemporaryFolder.hpp"
+
+using dral::Bq27542FuelGauge;
+using dral::FuelGaugeProperty;
+using dral::FuelGaugeStatus;
+using dral::LifetimeData;
+using dral::PropertyInfo;
+using dral::PropertyMap;
+using dral::PropertyValue;
+
+namespace {
+
+const std::string Class = "Bq27542FuelGauge";
+constexpr auto Soon = std::chrono::seconds(20);  // for what would else never come
+
+std::unique_ptr<PropertyMap> MapOf(FuelGaugeProperty property, PropertyInfo info) {
+  return std::make_unique<PropertyMap>(PropertyMap{{property, std::move(info)}});
+}
+
+TEST(Bq27542FuelGauge, LogsItsConstruction) {
+  const TemporaryFolder folder;
+  LogCapture log;
+  const Bq27542FuelGauge standard("");
+  EXPECT_EQ(log.Take(),
+            std::vector{Record(8, Class, Class,
+                               "Bq27542FuelGauge constructor using default property map ")});
+  Bq27542FuelGauge overridden(folder.Write("override", "maxTemp 1"),
+                              Bq27542FuelGauge::PropertyMapAt("/nowhere"));
+  auto records = log.Take();
+  records.resize(2);  // the parser's follow
+  EXPECT_EQ(records,
+            (std::vector{Record(8, Class, Class,
+                                "Bq27542FuelGauge constructor using passed in property map "),
+                         Record(8, Class, Class,
+                                "Bq27542FuelGauge constructor overwriting lifetime reset data " +
+                                    folder.At("override"))}));
+  EXPECT_EQ(overridden.Get<LifetimeData>(FuelGaugeProperty::LifetimeDataResetValue).second.maxTemp,
+            1);
+  overridden.UpdateResetPropertyValues("");
+  EXPECT_TRUE(log.Take().empty());
+}
+
+TEST(Bq27542FuelGauge, AnswersTheResetValueAsTheMapHoldsIt) {
+  const auto get = [](std::unique_ptr<PropertyMap> map) {
+    return Describe(Bq27542FuelGauge("", std::move(map))
+                        .Get(FuelGaugeProperty::LifetimeDataResetValue, "ignored"));
+  };
+  const LogCapture log;
+  EXPECT_EQ(get(nullptr), "0 record " + Bytes(LifetimeData{}));
+  EXPECT_EQ(get(std::make_unique<PropertyMap>()), "0 record " + Bytes(LifetimeData{}));
+  EXPECT_EQ(get(MapOf(FuelGaugeProperty::LifetimeData, {.resetValue = "text"})), "0 string text");
+}
+
+TEST(Bq27542FuelGauge, AnOverrideNeedsARecordToStartFrom) {
+  const TemporaryFolder folder;
+  const std::string file = folder.Write("override", "maxTemp 1");
+  const LogCapture log;
+  EXPECT_THROW(Bq27542FuelGauge(file, std::make_unique<PropertyMap>()), std::bad_variant_access);
+  EXPECT_THROW(Bq27542FuelGauge(file, MapOf(FuelGaugeProperty::LifetimeData, {})),
+               std::bad_variant_access);
+  Bq27542FuelGauge gauge("");
+  EXPECT_THROW(gauge.UpdateResetPropertyValues(folder.Write("bad", "maxTemp 5 minTemp x")),
+               std::invalid_argument);
+  EXPECT_EQ(Describe(gauge.Get(FuelGaugeProperty::LifetimeDataResetValue, 0)),
+            "0 record " + Bytes(LifetimeData{}))
+      << "a failed override changes nothing";
+}
+
+TEST(Bq27542FuelGauge, TurnsExceptionsIntoLoggedFailures) {
+  Bq27542FuelGauge gauge("", std::make_unique<PropertyMap>());
+  LogCapture log(3);
+  EXPECT_EQ(Describe(gauge.Get(FuelGaugeProperty{17}, "abc")), "2 string abc");
+  EXPECT_EQ(log.Take(), (std::vector{Record(3, "Readable", "Get",
+                                            "Readable Missing FuelGaugeProperty definition: 17"),
+                                     Record(3, Class, "DoGet",
+                                            "Failed to get property: 17ex: Readable Missing "
+                                            "FuelGaugeProperty definition")}));
+  EXPECT_EQ(Describe(gauge.Set(FuelGaugeProperty::LifetimeDataResetValue, 1)), "2");
+  EXPECT_EQ(log.Take(), (std::vector{Record(3, "Writable", "WriteData",
+                                            "Writable Missing FuelGaugeProperty definition: 16"),
+                                     Record(3, Class, "DoSet",
+                                            "Failed to set property: 16ex: Writable Missing "
+                                            "FuelGaugeProperty definition")}));
+  EXPECT_EQ(Describe(gauge.Reset(FuelGaugeProperty::LifetimeData)), "2");
+  EXPECT_EQ(log.Take(), (std::vector{Record(3, "Writable", "WriteData",
+                                            "Writable Missing FuelGaugeProperty definition: 15"),
+                                     Record(3, Class, "DoReset",
+                                            "Failed to reset property: 15ex: Writable Missing "
+                                            "FuelGaugeProperty definition")}));
+  dral::LogOutput::SetLevel(dral::LogLevel{2});
+  EXPECT_EQ(Describe(gauge.Get(FuelGaugeProperty{99}, 5)), "2 int 5");
+  EXPECT_TRUE(log.Take().empty());
+}
+
+TEST(Bq27542FuelGauge, TheDefaultPropertiesAreReadOnlyButForTheRecord) {
+  const TemporaryFolder folder;
+  Bq27542FuelGauge gauge("", Bq27542FuelGauge::PropertyMapAt(folder.At("")));
+  folder.Write("lifetime_data", "old");
+  folder.Write("voltage_now", "4200\n");
+  LogCapture log(3);
+  for (std::uint32_t number = 0; number < 15; ++number) {
+    EXPECT_EQ(Describe(gauge.Set(FuelGaugeProperty{number}, "x")), "2");
+    EXPECT_EQ(Describe(gauge.Reset(FuelGaugeProperty{number})), "2");
+    EXPECT_EQ(log.Take(), std::vector(2, Record(3, "Writable", "WriteData",
+                                                "FuelGaugeProperty:" + std::to_string(number) +
+                                                    "not settable")));
+  }
+  EXPECT_EQ(folder.Read("voltage_now"), "4200\n");
+  EXPECT_EQ(Describe(gauge.Reset(FuelGaugeProperty::LifetimeData)), "0");
+  EXPECT_EQ(folder.Read("lifetime_data"), Bytes(LifetimeData{}));
+}
+
+TEST(Bq27542FuelGauge, DumpsEveryEntry) {
+  LogCapture log(3);
+  Bq27542FuelGauge("").DumpPropertyMap();
+  auto records = log.Take();
+  EXPECT_EQ(records.size(), 16U);
+  EXPECT_EQ(std::count(records.begin(), records.end(),
+                       Record(3, Class, "DumpPropertyMap",
+                              "Type: 15 : dral::PropertyInfo:    propertyName=LifetimeData , "
+                              "settable=1 , resettable=1 , location=/sys/class/power_supply/"
+                              "bq27542-0/lifetime_data , resetValue=binaryData , binary=1\n\n")),
+            1);
+  const Bq27542FuelGauge odd("", MapOf(FuelGaugeProperty::Name, {.resetValue = 5}));
+  EXPECT_THROW(odd.DumpPropertyMap(), std::bad_variant_access);
+}
+
+TEST(Bq27542FuelGauge, ReleasesTheLockBeforeItLogs) {
+  const TemporaryFolder folder;
+  folder.Write("temp", "251\n");
+  Bq27542FuelGauge gauge("", Bq27542FuelGauge::PropertyMapAt(folder.At("")));
+  const LogCapture log(3);
+  std::vector<std::string> answers;
+  dral::LogOutput::SetSink([&](const dral::LogRecord& record) {
+    if (record.function.substr(0, 2) == "Do") {
+      auto read = std::async(std::launch::async,
+                             [&] { return gauge.Get<int>(FuelGaugeProperty::Temperature); });
+      answers.push_back(read.wait_for(Soon) == std::future_status::ready ? Describe(read.get())
+                                                                         : "blocked");
+    }
+  });
+  gauge.Get<int>(FuelGaugeProperty{17});
+  gauge.Set(FuelGaugeProperty{17}, 1);
+  gauge.Reset(FuelGaugeProperty{17});
+  EXPECT_EQ(answers, std::vector<std::string>(3, "0 int 251"));
+}
+
+TEST(Bq27542FuelGauge, AnswersTheResetValueWhileAReadHoldsTheLock) {
+  const TemporaryFolder folder;
+  ASSERT_EQ(::mkfifo(folder.At("temp").c_str(), 0600), 0);
+  Bq27542FuelGauge gauge("", Bq27542FuelGauge::PropertyMapAt(folder.At("")));
+  auto slow = std::async(std::launch::async,
+                         [&] { return gauge.Get<int>(FuelGaugeProperty::Temperature); });
+  std::ofstream pipe(folder.At("temp"));  // opens once the reader has; it then waits for the text
+  auto quick = std::async(std::launch::async, [&] {
+    return gauge.Get<LifetimeData>(FuelGaugeProperty::LifetimeDataResetValue).first;
+  });
+  EXPECT_EQ(quick.wait_for(Soon), std::future_status::ready);
+  pipe << "251\n" << std::flush;
+  pipe.close();
+  EXPECT_EQ(Describe(slow.get()), "0 int 251");
+}
+
+TEST(Bq27542FuelGauge, IgnoresTheGlobalLocale) {
+  struct Grouping : std::numpunct<char> {
+    std::string do_grouping() const override { return "\1"; }
+    char do_thousands_sep() const override { return ','; }
+  };
+  const TemporaryFolder folder;
+  Bq27542FuelGauge gauge("", MapOf(FuelGaugeProperty{4200},
+                                   {.settable = true, .location = folder.Write("value", "")}));
+  LogCapture log(3);
+  const std::locale before = std::locale::global(std::locale(std::locale(), new Grouping));
+  gauge.Set(FuelGaugeProperty{4200}, 4200);
+  const std::string written = folder.Read("value");
+  const std::string read = Describe(gauge.Get(FuelGaugeProperty{4200}, 0));
+  gauge.Get(FuelGaugeProperty{12345}, 0);
+  gauge.DumpPropertyMap();
+  const std::string text = LifetimeData{}.ToString();
+  std::locale::global(before);
+  EXPECT_EQ(written, "4200");
+  EXPECT_EQ(read, "0 int 4200");
+  EXPECT_EQ(text, LifetimeData{}.ToString());
+  const auto records = log.Take();
+  ASSERT_EQ(records.size(), 3U);
+  EXPECT_NE(records[0].find("definition: 12345"), std::string::npos);
+  EXPECT_NE(records[1].find("property: 12345ex: "), std::string::npos);
+  EXPECT_NE(records[2].find("Type: 4200 : "), std::string::npos);
+}
+
+TEST(Bq27542FuelGaugeThreads, OperationsOnOneObjectNeverOverlap) {
+  const TemporaryFolder folder;
+  folder.Write("lifetime_data", Bytes(LifetimeData{}));
+  Bq27542FuelGauge gauge("", Bq27542FuelGauge::PropertyMapAt(folder.At("")));
+  const auto work = [&gauge](std::int16_t number) {
+    int torn = 0;
+    for (int round = 0; round < 500; ++round) {
+      LifetimeData record{number, number, 1, 1, number, number};
+      record.reserved.fill(static_cast<std::uint8_t>(number));
+      gauge.Set(FuelGaugeProperty::LifetimeData, record);
+      gauge.Get<int>(FuelGaugeProperty{17});
+      const auto [status, read] = gauge.Get<LifetimeData>(FuelGaugeProperty::LifetimeData);
+      torn += status != FuelGaugeStatus::Success || read.maxTemp != read.maxDischargeCurrent ||
+                      read.reserved[19] != static_cast<std::uint8_t>(read.maxTemp)
+                  ? 1
+                  : 0;
+    }
+    return torn;
+  };
+  LogCapture log(3);
+  std::vector<std::future<int>> threads;
+  for (std::int16_t number = 1; number <= 4; ++number) {
+    threads.push_back(std::async(std::launch::async, work, number));
+  }
+  for (auto& thread : threads) {
+    EXPECT_EQ(thread.get(), 0);
+  }
+  EXPECT_EQ(log.Take().size(), 4U * 500U * 2U);
+}
+
+}  // namespace

@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+
+/// A folder of its own, gone with the object.
+class TemporaryFolder {
+ public:
+  TemporaryFolder() : path(::mkdtemp(std::string("/tmp/fuelgauge-XXXXXX").data())) {}
+  ~TemporaryFolder() { std::filesystem::remove_all(path); }
+  TemporaryFolder(const TemporaryFolder&) = delete;
+  TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+
+  std::string At(const std::string& name) const { return path + "/" + name; }
+
+  /// @return the path of the file that now holds @p contents
+  std::string Write(const std::string& name, const std::string& contents) const {
+    std::ofstream(At(name), std::ios::binary) << contents;
+    return At(name);
+  }
+
+  std::string Read(const std::string& name) const {
+    std::ifstream file(At(name), std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+  }
+
+ private:
+  std::string path;
+};

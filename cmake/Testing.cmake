@@ -1,6 +1,8 @@
 # SPDX-License-Identifier: MIT
-find_package(GTest REQUIRED)
-include(GoogleTest)
+if(BUILD_TESTING)
+  find_package(GTest REQUIRED)
+  include(GoogleTest)
+endif()
 
 # add_gauge_test(NAME COMMAND command...): a test whose command finds a simulated gauge at the real
 # sysfs path. Skipped where the system allows no private mount namespace.

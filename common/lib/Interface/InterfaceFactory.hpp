@@ -14,7 +14,8 @@ namespace dral {
 class KESP_EXPORT InterfaceFactory {
  public:
   /// Builds a new object with the constructor registered as @p name, or as "DefaultIF" when there
-  /// is no such name. Thread-safe.
+  /// is no such name. Thread-safe. Keeps neither @p name nor, for its part, the arguments. Not to
+  /// be called once the process is exiting.
   ///
   /// The argument list chooses the registry, so name it: `Create<FuelGaugeIF,
   /// std::string_view>(…)`. Left to deduction, a `std::string` argument would ask another registry,

@@ -18,8 +18,8 @@ namespace dral {
 /// A Texas Instruments BQ27542 as the kernel's power_supply class serves it. Most callers get one
 /// from the factory (see `FuelGaugeIF`); build one directly to read a gauge of another name:
 ///
-///     Bq27542FuelGauge gauge{"",
-///     Bq27542FuelGauge::PropertyMapAt("/sys/class/power_supply/bq27542-1")};
+///     const auto directory = "/sys/class/power_supply/bq27542-1";
+///     Bq27542FuelGauge gauge("", Bq27542FuelGauge::PropertyMapAt(directory));
 ///
 /// Thread-safe but for `UpdateResetPropertyValues`. Every read opens its file anew.
 class KESP_EXPORT Bq27542FuelGauge : public FuelGaugeIF {
@@ -47,10 +47,9 @@ class KESP_EXPORT Bq27542FuelGauge : public FuelGaugeIF {
 
   /// @param lifetimeResetPath a lifetime override file (see `LifetimeDataParser`); empty: none
   /// @param propertyMap copied; null: the properties of `bq27542-0`
-  /// @throws std::invalid_argument, std::out_of_range when a value in the override file is no
-  /// number
-  ///         or too large
-  /// @throws std::bad_variant_access when there is an override file but @p propertyMap has no
+  /// @throws std::invalid_argument, std::out_of_range when a field's value in the override file is
+  ///         no number or too large
+  /// @throws std::bad_variant_access when @p lifetimeResetPath is given but @p propertyMap has no
   ///         lifetime entry, or one that holds no record
   explicit Bq27542FuelGauge(std::string_view lifetimeResetPath,
                             std::unique_ptr<PropertyMap> propertyMap = nullptr);
@@ -58,7 +57,7 @@ class KESP_EXPORT Bq27542FuelGauge : public FuelGaugeIF {
 
   /// Reads the lifetime reset value anew from an override file; an empty path changes nothing.
   /// Not thread-safe: no other call on this object may run meanwhile.
-  /// @throws as the constructor
+  /// @throws as the constructor; a record that was the reset value still is
   void UpdateResetPropertyValues(std::string_view lifetimeResetPath);
 
   /// Writes every property's descriptor to the log, at level 3.

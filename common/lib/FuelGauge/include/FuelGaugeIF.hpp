@@ -18,16 +18,17 @@ namespace dral {
 
 /// A battery fuel gauge. Get one from the factory:
 ///
-///     auto gauge = InterfaceFactory::Create<FuelGaugeIF, std::string_view>("Bq27542FuelGauge",
-///     ""); auto [status, microvolts] = gauge->Get<int>(FuelGaugeProperty::VoltageNow);
+///     auto gauge = InterfaceFactory::Create<FuelGaugeIF, std::string_view>("DefaultIF", "");
+///     auto [status, microvolts] = gauge->Get<int>(FuelGaugeProperty::VoltageNow);
 ///
 /// The second argument is the path of a lifetime override file (see `LifetimeDataParser`), empty
-/// for none. Creation throws when that file holds a value that is no number, and when memory runs
-/// out; the operations answer with a status and throw nothing but what is not a `std::exception`
-/// (and `std::bad_alloc`, when there is no memory left to pass a value along).
+/// for none. Creation throws `std::invalid_argument` or `std::out_of_range` when a field's value in
+/// that file is no number or too large, and `std::bad_alloc`. The operations answer with a status
+/// and throw only `std::bad_alloc`, when there is no memory left to pass a value along.
 ///
-/// Thread-safe: any thread may call any operation at any time; the operations on one object never
-/// overlap. Two objects, or two processes, do not exclude each other.
+/// Thread-safe: any thread may call any operation at any time, and the file operations of one
+/// object never overlap. Two objects, or two processes, do not exclude each other. Destroy the
+/// object when no call is running.
 class KESP_EXPORT FuelGaugeIF {
  public:
   FuelGaugeIF();
@@ -67,8 +68,9 @@ class KESP_EXPORT FuelGaugeIF {
   FuelGaugeStatus Reset(FuelGaugeProperty property);
 
  protected:
-  /// What an implementation supplies; each serves the operation of its name. They may be called
-  /// from several threads at once.
+  /// What an implementation supplies; each serves the operation of its name. They are called from
+  /// several threads at once, and what they throw reaches the caller: to keep the promises above,
+  /// an implementation serialises its file operations and turns its exceptions into statuses.
   virtual FuelGaugeStatus DoSet(FuelGaugeProperty property, PropertyValue value) = 0;
   virtual std::pair<FuelGaugeStatus, PropertyValue> DoGet(FuelGaugeProperty property,
                                                           PropertyValue hint) = 0;

@@ -10,12 +10,12 @@ enum class FuelGaugeStatus : std::uint32_t {
   /// The operation was carried out. A write reports it once the file is open, even when the kernel
   /// then refuses the value: read back what matters.
   Success = 0,
-  /// Refused (the property is not settable) or failed otherwise: the property is unknown, or its
-  /// text is not a number that fits.
+  /// Refused (the property is not settable) or failed otherwise: the property is unknown, or a read
+  /// as a number or bool found no file, no text, or no number that fits.
   Failure = 2,
-  /// The property's file does not exist or cannot be opened.
+  /// The property's file does not exist or cannot be opened (writes; reads as text or record).
   FileError = 3,
-  /// The file was opened, but nothing usable could be read from it.
+  /// The file was opened, but nothing usable could be read from it (reads as text or record).
   NoData = 4,
 };
 

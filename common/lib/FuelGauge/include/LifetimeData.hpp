@@ -13,7 +13,8 @@ namespace dral {
 /// The extremes that the gauge has recorded over the life of its battery pack.
 ///
 /// A plain value in the gauge's own units, never converted: temperatures in 0.1 °C, pack voltages
-/// in mV, currents in mA. A default-constructed record is the one that a reset writes.
+/// in mV, currents in mA. A default-constructed record is what a reset writes, unless
+/// an override file says otherwise.
 struct KESP_EXPORT LifetimeData {
   static constexpr std::int16_t LifetimeMinTemp = -600;  ///< lowest valid temperature
   static constexpr std::int16_t LifetimeMaxTemp = 1400;  ///< highest valid temperature
@@ -26,12 +27,13 @@ struct KESP_EXPORT LifetimeData {
   static constexpr std::int16_t DefaultResetMaxChargeCurrent = 3000;
   static constexpr std::int16_t DefaultResetMaxDischargeCurrent = -1500;
 
-  std::int16_t maxTemp = DefaultResetMaxTemp;                          ///< 0.1 °C
-  std::int16_t minTemp = DefaultResetMinTemp;                          ///< 0.1 °C
-  std::uint16_t maxPackVoltage = DefaultResetMaxPackVoltage;           ///< mV
-  std::uint16_t minPackVoltage = DefaultResetMinPackVoltage;           ///< mV
-  std::int16_t maxChargeCurrent = DefaultResetMaxChargeCurrent;        ///< mA
-  std::int16_t maxDischargeCurrent = DefaultResetMaxDischargeCurrent;  ///< mA, negative
+  std::int16_t maxTemp = DefaultResetMaxTemp;                    ///< 0.1 °C
+  std::int16_t minTemp = DefaultResetMinTemp;                    ///< 0.1 °C
+  std::uint16_t maxPackVoltage = DefaultResetMaxPackVoltage;     ///< mV
+  std::uint16_t minPackVoltage = DefaultResetMinPackVoltage;     ///< mV
+  std::int16_t maxChargeCurrent = DefaultResetMaxChargeCurrent;  ///< mA
+  std::int16_t maxDischargeCurrent =
+      DefaultResetMaxDischargeCurrent;      ///< mA, by convention negative
   std::array<std::uint8_t, 20> reserved{};  ///< the gauge's own; carried through unchanged
 
   /// Sets each field that is out of its limits to its default and logs that at level 6. Limits:

@@ -19,8 +19,10 @@ namespace dral {
 ///     minTemp -100
 ///
 /// There are no comments and no quotes. Of a name that stands twice the first counts, unknown names
-/// are ignored, and fields that are not named keep their value. Numbers are decimal; what follows
-/// the digits of one is ignored, and its low 16 bits count.
+/// are ignored, and fields that are not named keep their value. Numbers are decimal and in the units
+/// of `LifetimeData`; what follows the digits of one is ignored, and its low 16 bits count.
+///
+/// A parser belongs to one thread; several may work at once.
 class KESP_EXPORT LifetimeDataParser {
  public:
   /// One entry of the file, read by its `operator>>`.

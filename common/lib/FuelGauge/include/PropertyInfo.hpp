@@ -26,8 +26,7 @@ using PropertyMap = std::unordered_map<FuelGaugeProperty, PropertyInfo>;
 
 /// Writes the descriptor as one line of text and flushes the stream.
 /// @throws std::bad_variant_access when a descriptor that is not binary holds no string as its
-/// reset
-///         value; the text before that value is then written already
+///         reset value; the text before that value is then written already
 KESP_EXPORT std::ostream& operator<<(std::ostream& os, const PropertyInfo& info);
 
 /// Reads the six fields in order, each as one word: name, flag, flag, location, reset text, flag.

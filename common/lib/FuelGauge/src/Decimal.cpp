@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Decimal.hpp"
 
+#include <algorithm>
 #include <charconv>
 #include <limits>
 #include <stdexcept>

@@ -8,9 +8,9 @@
 namespace dral {
 
 std::ostream& operator<<(std::ostream& os, const PropertyInfo& info) {
-  os << "dral::PropertyInfo:    propertyName=" << info.propertyName
-     << " , settable=" << info.settable << " , resettable=" << info.resettable
-     << " , location=" << info.location << " , resetValue=";
+  os << "dral::PropertyInfo: "
+     << "   propertyName=" << info.propertyName << " , settable=" << info.settable
+     << " , resettable=" << info.resettable << " , location=" << info.location << " , resetValue=";
   os << (info.binary ? std::string_view("binaryData") : std::get<std::string>(info.resetValue));
   return os << " , binary=" << info.binary << std::endl;
 }

@@ -4,6 +4,7 @@
 #include <array>
 #include <cstdint>
 #include <limits>
+#include <locale>
 #include <stdexcept>
 
 #include "Decimal.hpp"
@@ -70,7 +71,8 @@ std::pair<FuelGaugeStatus, PropertyValue> Readable::Get(PropertyValue hint) cons
 
 std::pair<FuelGaugeStatus, std::string> Readable::GetTextFileContents(const std::string& path) {
   std::filebuf file;
-  file.pubsetbuf(nullptr, 0);  // the block below is the only buffer
+  file.pubimbue(std::locale::classic());  // the global locale may convert characters
+  file.pubsetbuf(nullptr, 0);             // the block below is the only buffer
   if (file.open(path, std::ios::in) == nullptr) {
     const int error = errno;
     KESP_LOG(LogFailure) << "Readable::Get failed to open file: " << path

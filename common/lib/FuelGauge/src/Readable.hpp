@@ -4,6 +4,7 @@
 #include <cerrno>
 #include <cstring>
 #include <fstream>
+#include <locale>
 #include <string>
 #include <utility>
 
@@ -45,6 +46,7 @@ template <typename T>
 std::pair<FuelGaugeStatus, T> Readable::GetBinaryFileContents(const std::string& path) {
   T record{};
   std::ifstream file;
+  file.imbue(std::locale::classic());   // the global locale may convert characters
   file.rdbuf()->pubsetbuf(nullptr, 0);  // no buffer, so that nothing past the record is read
   file.open(path, std::ios::in | std::ios::binary);
   if (!file) {

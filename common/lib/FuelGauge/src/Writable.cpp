@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <cstring>
 #include <fstream>
+#include <locale>
 #include <memory>
 #include <stdexcept>
 #include <string>
@@ -45,6 +46,7 @@ struct WriteTo {
     const auto& contents = FileContents(value);
     constexpr bool Binary = std::is_same_v<T, LifetimeData>;
     std::ofstream file;
+    file.imbue(std::locale::classic());   // the global locale may convert characters
     file.rdbuf()->pubsetbuf(nullptr, 0);  // the contents go out in one piece, as sysfs wants them
     file.open(location,
               std::ios::out | std::ios::trunc | (Binary ? std::ios::binary : std::ios::openmode{}));

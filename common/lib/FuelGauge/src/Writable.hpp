@@ -27,10 +27,8 @@ class KESP_EXPORT Writable {
   /// Writes @p value, or the property's reset value when @p useGivenValue is false. A file that
   /// does not exist is not made.
   /// @return Success once the file was open, whatever became of the bytes; Failure when the
-  /// property
-  ///         is not settable; FileError when the file is missing or cannot be opened
+  ///         property is not settable; FileError when the file is missing or cannot be opened
   /// @throws std::logic_error when the map lacks the property
-  /// @throws std::bad_variant_access when the value to write is valueless
   FuelGaugeStatus WriteData(bool useGivenValue, PropertyValue value) const;
 
  private:

@@ -48,7 +48,7 @@ TEST(FixedPath, TheFactorysGaugeReadsEveryProperty) {
   EXPECT_EQ(Describe(gauge->Reset(FuelGaugeProperty::LifetimeData)), "0");
   EXPECT_EQ(Describe(gauge->Get(FuelGaugeProperty::LifetimeData, record)),
             "0 record " + Bytes(LifetimeData{}));
-  EXPECT_TRUE(log.Take().empty());
+  EXPECT_EQ(log.Take(), "");
 }
 
 }  // namespace

@@ -73,7 +73,7 @@ TEST(Readable, ConvertsTheTextAsTheHintAsks) {
   LogCapture log;
   for (const Case& each : cases) {
     EXPECT_EQ(Get(folder.Write("value", each.text), each.hint), each.outcome) << each.title;
-    EXPECT_TRUE(log.Take().empty()) << each.title;
+    EXPECT_EQ(log.Take(), "") << each.title;
   }
 }
 
@@ -81,39 +81,26 @@ TEST(Readable, AnUnsignedBeyond32BitsIsLoggedAndThrownWithItsText) {
   const TemporaryFolder folder;
   LogCapture log;
   const std::pair<std::string, std::string> cases[] = {{"-1\n", "18446744073709551615"},
-                                                       {"4294967296", "4294967296"},
-                                                       {" 5000000000 x", "5000000000"}};
+                                                       {" 4294967296 x", "4294967296"}};
   for (const auto& [text, value] : cases) {
     EXPECT_EQ(Get(folder.Write("value", text), Unsigned), "out_of_range " + text);
-    EXPECT_EQ(log.Take(), std::vector{Record(3, "Readable", "operator()",
-                                             "Value out of range for unsigned int: " + value)});
+    EXPECT_EQ(log.Take(),
+              "3 Readable operator(): Value out of range for unsigned int: " + value + "\n");
   }
 }
 
 TEST(Readable, TellsAFileThatCannotBeOpenedFromOneThatGivesNothing) {
   const TemporaryFolder folder;
-  const std::string defaultRecord = Bytes(LifetimeData{});
+  const std::string blank = Bytes(LifetimeData{});
   const std::string missing = folder.At("missing");
   const std::string empty = folder.Write("empty", "");
-  const std::string ten = folder.Write("short", "0123456789");
-  // Opens, and answers EIO and EISDIR when it is read.
-  const std::string dead = "/proc/self/mem";
+  const std::string ten = folder.Write("ten", "0123456789");
+  const std::string dead = "/proc/self/mem";  // opens, and answers EIO when it is read
   const std::string directory = folder.At("");
-  const std::string openText = "Readable::Get failed to open file: ";
-  const std::string openBinary = "Readable::GetBinaryFileContents failed to open file: ";
-  const std::string absent = "error: " + std::string(std::strerror(ENOENT));
-  const auto text = [](const std::string& record) {
-    return Record(3, "Readable", "GetTextFileContents", record);
-  };
-  const auto binary = [](const std::string& record) {
-    return Record(3, "Readable", "GetBinaryFileContents", record);
-  };
-  const auto noText = [&](const std::string& path) {
-    return text("Bad or No data encountered in file:" + path);
-  };
-  const auto noRecord = [&](const std::string& path) {
-    return binary("Bad or no data encountered in file:" + path);
-  };
+  const std::string noText = "GetTextFileContents: Bad or No data encountered in file:";
+  const std::string noRecord = "GetBinaryFileContents: Bad or no data encountered in file:";
+  const std::string absent = missing + "error: " + std::strerror(ENOENT);
+  const std::string noFile = "GetTextFileContents: Readable::Get failed to open file: " + absent;
   struct Case {
     std::string path;
     PropertyValue hint;
@@ -121,25 +108,26 @@ TEST(Readable, TellsAFileThatCannotBeOpenedFromOneThatGivesNothing) {
     std::string record;
   };
   const Case cases[] = {
-      {missing, Text, "3 string ", text(openText + missing + absent)},
-      {missing, Int, "invalid_argument stoi", text(openText + missing + absent)},
-      {missing, Unsigned, "invalid_argument stoul", text(openText + missing + absent)},
-      {missing, Bool, "invalid_argument stoi", text(openText + missing + absent)},
-      {missing, Binary, "3 record " + defaultRecord, binary(openBinary + missing + absent)},
-      {empty, Text, "4 string ", noText(empty)},
-      {empty, Int, "invalid_argument stoi", noText(empty)},
-      {empty, Binary, "4 record " + defaultRecord, noRecord(empty)},
-      {ten, Binary, "4 record 0123456789" + defaultRecord.substr(10), noRecord(ten)},
-      {dead, Text, "4 string ", noText(dead)},
-      {dead, Bool, "invalid_argument stoi", noText(dead)},
-      {dead, Binary, "4 record " + defaultRecord, noRecord(dead)},
-      {directory, Text, "4 string ", noText(directory)},
-      {directory, Binary, "4 record " + defaultRecord, noRecord(directory)},
+      {missing, Text, "3 string ", noFile},
+      {missing, Int, "invalid_argument stoi", noFile},
+      {missing, Unsigned, "invalid_argument stoul", noFile},
+      {missing, Bool, "invalid_argument stoi", noFile},
+      {missing, Binary, "3 record " + blank,
+       "GetBinaryFileContents: Readable::GetBinaryFileContents failed to open file: " + absent},
+      {empty, Text, "4 string ", noText + empty},
+      {empty, Int, "invalid_argument stoi", noText + empty},
+      {empty, Binary, "4 record " + blank, noRecord + empty},
+      {ten, Binary, "4 record 0123456789" + blank.substr(10), noRecord + ten},
+      {dead, Text, "4 string ", noText + dead},
+      {dead, Bool, "invalid_argument stoi", noText + dead},
+      {dead, Binary, "4 record " + blank, noRecord + dead},
+      {directory, Text, "4 string ", noText + directory},
+      {directory, Binary, "4 record " + blank, noRecord + directory},
   };
   LogCapture log;
   for (const Case& each : cases) {
     EXPECT_EQ(Get(each.path, each.hint), each.outcome) << each.path;
-    EXPECT_EQ(log.Take(), std::vector{each.record}) << each.path;
+    EXPECT_EQ(log.Take(), "3 Readable " + each.record + "\n") << each.path;
   }
 }
 
@@ -147,12 +135,10 @@ TEST(Readable, RefusesAPropertyWithoutEntryOrFileWhateverTheHint) {
   LogCapture log;
   for (const PropertyValue& hint : {Text, Int, Unsigned, Bool, Binary}) {
     EXPECT_EQ(Get("", hint), "logic_error Readable Missing FuelGaugeProperty filepath");
-    EXPECT_EQ(log.Take(), std::vector{Record(3, "Readable", "Get",
-                                             "FuelGaugeProperty:4not resettable, filepath empty")});
+    EXPECT_EQ(log.Take(), "3 Readable Get: FuelGaugeProperty:4not resettable, filepath empty\n");
     EXPECT_EQ(Outcome([&] { return Readable(FuelGaugeProperty{17}, {}).Get(hint); }),
               "logic_error Readable Missing FuelGaugeProperty definition");
-    EXPECT_EQ(log.Take(), std::vector{Record(3, "Readable", "Get",
-                                             "Readable Missing FuelGaugeProperty definition: 17")});
+    EXPECT_EQ(log.Take(), "3 Readable Get: Readable Missing FuelGaugeProperty definition: 17\n");
   }
 }
 

@@ -2,37 +2,34 @@
 #pragma once
 
 #include <LogOutput.hpp>
-#include <mutex>
 #include <string>
 #include <utility>
-#include <vector>
 
-/// Takes the process's log records while it lives, each as one line of text.
+/// Takes the process's log records while it lives.
 class LogCapture {
  public:
   explicit LogCapture(unsigned level = 8) {
-    dral::LogOutput::SetLevel(static_cast<dral::LogLevel>(level));
-    dral::LogOutput::SetSink([this](const dral::LogRecord& record) {
-      records.push_back(std::to_string(static_cast<unsigned>(record.level)) + " " +
-                        std::to_string(static_cast<unsigned>(record.category)) + " " +
-                        std::string(record.source) + " " + std::string(record.function) + ": " +
-                        record.text);
-    });
+    dral::LogOutput::SetLevel(dral::LogLevel{level});
+    dral::LogOutput::SetSink([this](const dral::LogRecord& record) { lines += Line(record); });
   }
   ~LogCapture() { dral::LogOutput::SetSink({}); }
   LogCapture(const LogCapture&) = delete;
   LogCapture& operator=(const LogCapture&) = delete;
 
-  /// @return the records since the last call
-  std::vector<std::string> Take() { return std::exchange(records, {}); }
+  /// @return the records since the last call, each as a line "level source function: text"
+  std::string Take() { return std::exchange(lines, {}); }
 
  private:
-  std::vector<std::string> records;
-};
+  // All of the library's records share a folder and a category; what differs is shown in full.
+  static std::string Line(const dral::LogRecord& record) {
+    const std::string_view folder = "common/lib/FuelGauge/src/";
+    std::string source(record.source);
+    if (source.starts_with(folder) && record.category == dral::LogCategory{32772}) {
+      source.erase(0, folder.size());
+    }
+    return std::to_string(static_cast<unsigned>(record.level)) + " " + source + " " +
+           std::string(record.function) + ": " + record.text + "\n";
+  }
 
-/// The line of a record of the class @p source, for comparison with those captured.
-inline std::string Record(unsigned level, const std::string& source, const std::string& function,
-                          const std::string& text) {
-  return std::to_string(level) + " 32772 common/lib/FuelGauge/src/" + source + " " + function +
-         ": " + text;
-}
+  std::string lines;
+};

@@ -99,7 +99,12 @@ std::ostream& operator<<(std::ostream& os, const LifetimeData& data) {
 std::istream& operator>>(std::istream& is, LifetimeData& data) {
   // Starting from the old bytes keeps those that a short read does not replace.
   Bytes bytes = Encode(data);
-  is.read(bytes.data(), bytes.size());
+  try {
+    is.read(bytes.data(), bytes.size());
+  } catch (...) {  // a stream that was told to throw
+    data = Decode(bytes);
+    throw;
+  }
   data = Decode(bytes);
   return is;
 }

@@ -60,6 +60,12 @@ TEST(Bq27542FuelGauge, AnOverrideNeedsARecordToStartFrom) {
   const TemporaryFolder folder;
   const std::string file = folder.Write("override", "maxTemp 1");
   const LogCapture log;
+  LifetimeData start{9, 9, 9, 9, 9, 9};
+  start.reserved.fill(9);
+  Bq27542FuelGauge started(file, MapOf(FuelGaugeProperty::LifetimeData, {.resetValue = start}));
+  start.maxTemp = 1;
+  EXPECT_EQ(Describe(started.Get(FuelGaugeProperty::LifetimeDataResetValue, 0)),
+            "0 record " + Bytes(start));
   EXPECT_THROW(Bq27542FuelGauge(file, std::make_unique<PropertyMap>()), std::bad_variant_access);
   EXPECT_THROW(Bq27542FuelGauge(file, MapOf(FuelGaugeProperty::LifetimeData, {})),
                std::bad_variant_access);
@@ -94,6 +100,27 @@ TEST(Bq27542FuelGauge, TurnsExceptionsIntoLoggedFailures) {
   EXPECT_EQ(log.Take(), "");
 }
 
+TEST(Bq27542FuelGauge, PassesStatusesOnAndTurnsBadNumbersIntoFailures) {
+  const TemporaryFolder folder;
+  Bq27542FuelGauge gauge("", Bq27542FuelGauge::PropertyMapAt(folder.At("")));
+  folder.Write("technology", "");
+  folder.Write("temp", "hot\n");
+  LogCapture log(3);
+  const auto lines = [&log] {
+    const std::string records = log.Take();
+    return std::count(records.begin(), records.end(), '\n');
+  };
+  EXPECT_EQ(Describe(gauge.Get(FuelGaugeProperty::Name, "hint")), "3 string ");
+  EXPECT_EQ(Describe(gauge.Get(FuelGaugeProperty::Technology, "hint")), "4 string ");
+  EXPECT_EQ(Describe(gauge.Set(FuelGaugeProperty::LifetimeData, "x")), "3");
+  EXPECT_EQ(Describe(gauge.Reset(FuelGaugeProperty::LifetimeData)), "3");
+  EXPECT_EQ(lines(), 4) << "none of them the driver's own";
+  EXPECT_EQ(Describe(gauge.Get(FuelGaugeProperty::Technology, true)), "2 bool true");
+  EXPECT_EQ(lines(), 2);
+  EXPECT_EQ(Describe(gauge.Get(FuelGaugeProperty::Temperature, 77U)), "2 uint 77");
+  EXPECT_EQ(log.Take(), "3 Bq27542FuelGauge DoGet: Failed to get property: 8ex: stoul\n");
+}
+
 TEST(Bq27542FuelGauge, TheDefaultPropertiesAreReadOnlyButForTheRecord) {
   const TemporaryFolder folder;
   Bq27542FuelGauge gauge("", Bq27542FuelGauge::PropertyMapAt(folder.At("")));
@@ -117,6 +144,17 @@ TEST(Bq27542FuelGauge, DumpsEveryEntry) {
   Bq27542FuelGauge("").DumpPropertyMap();
   const std::string dump = log.Take();
   EXPECT_EQ(std::count(dump.begin(), dump.end(), '\n'), 16 * 3);
+  int number = 0;
+  for (const char* name :
+       {"Manufacturer", "Technology", "Status", "Present", "VoltageNow", "CurrentNow",
+        "StateOfCharge", "ChargeLevel", "Temperature", "NominalAvailableCapacity",
+        "FullChargeCapacity", "CycleCount", "PowerAverage", "Health", "TimeToEmpty"}) {
+    EXPECT_NE(dump.find("Type: " + std::to_string(number++) +
+                        " : dral::PropertyInfo:    propertyName=" + name +
+                        " , settable=0 , resettable=0 , "),
+              std::string::npos)
+        << name;
+  }
   EXPECT_NE(
       dump.find("3 Bq27542FuelGauge DumpPropertyMap: Type: 15 : dral::PropertyInfo:    "
                 "propertyName=LifetimeData , settable=1 , resettable=1 , location=/sys/class/"
@@ -206,7 +244,9 @@ TEST(Bq27542FuelGauge, IgnoresTheGlobalLocale) {
 TEST(Bq27542FuelGaugeThreads, OperationsOnOneObjectNeverOverlap) {
   const TemporaryFolder folder;
   folder.Write("lifetime_data", Bytes(LifetimeData{}));
-  Bq27542FuelGauge gauge("", Bq27542FuelGauge::PropertyMapAt(folder.At("")));
+  auto map = Bq27542FuelGauge::PropertyMapAt(folder.At(""));
+  map->at(FuelGaugeProperty::LifetimeData).resetValue = LifetimeData{0, 0, 1, 1, 0, 0};
+  Bq27542FuelGauge gauge("", std::move(map));
   const auto work = [&gauge](std::int16_t number) {
     int torn = 0;
     for (int round = 0; round < 500; ++round) {
@@ -214,6 +254,7 @@ TEST(Bq27542FuelGaugeThreads, OperationsOnOneObjectNeverOverlap) {
       record.reserved.fill(static_cast<std::uint8_t>(number));
       gauge.Set(FuelGaugeProperty::LifetimeData, record);
       gauge.Get<int>(FuelGaugeProperty{17});
+      gauge.Reset(FuelGaugeProperty::LifetimeData);
       const auto [status, read] = gauge.Get<LifetimeData>(FuelGaugeProperty::LifetimeData);
       torn += status != FuelGaugeStatus::Success || read.maxTemp != read.maxDischargeCurrent ||
                       read.reserved[19] != static_cast<std::uint8_t>(read.maxTemp)

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 #include <LifetimeDataParser.hpp>
 
+#include <algorithm>
 #include <set>
 #include <sstream>
 
@@ -83,6 +84,8 @@ TEST(LifetimeDataParser, LogsWhatItFindsAndMisses) {
   Parse(folder.At("missing"));
   EXPECT_EQ(log.Take(), "3 LifetimeDataParser LifetimeDataParser: Failed to open file : " +
                             folder.At("missing") + "\n");
+  Parse(folder.Write("override", ""));
+  EXPECT_EQ(std::ranges::count(log.Take(), '\n'), 6) << "one \"Valid … Not Found\" for each field";
   Parse(folder.Write("override", "maxTemp 70000 minTemp -1 minTemp -2 colour red"));
   std::multiset<std::string> records;  // in no order
   std::istringstream lines(log.Take());

@@ -25,6 +25,8 @@ TEST(LifetimeData, BinaryFormIsLittleEndianAndSurvivesTheRoundTrip) {
   EXPECT_TRUE(stream >> data);
   EXPECT_EQ(Bytes(data), every);
   EXPECT_EQ(stream.tellg(), 32) << "what follows the record stays in the stream";
+  EXPECT_EQ(data.reserved[0], 'm');
+  EXPECT_EQ(data.minTemp, static_cast<std::int16_t>(0xE463));
 }
 
 TEST(LifetimeData, AShortStreamReplacesOnlyTheBytesThatCame) {
@@ -36,6 +38,10 @@ TEST(LifetimeData, AShortStreamReplacesOnlyTheBytesThatCame) {
     EXPECT_EQ(Bytes(data), std::string(length, 'x') + DefaultBytes.substr(length));
     stream >> data;  // a failed stream leaves the record alone
     EXPECT_EQ(Bytes(data), std::string(length, 'x') + DefaultBytes.substr(length));
+    std::istringstream throwing(std::string(length, 'y'));
+    throwing.exceptions(std::ios::failbit);
+    EXPECT_THROW(throwing >> data, std::ios_base::failure);
+    EXPECT_EQ(Bytes(data), std::string(length, 'y') + DefaultBytes.substr(length));
   }
 }
 

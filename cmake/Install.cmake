@@ -1,0 +1,33 @@
+# SPDX-License-Identifier: MIT
+include(CMakePackageConfigHelpers)
+
+# From the place of a package's files to the prefix, so that an installed tree can be moved.
+cmake_path(RELATIVE_PATH CMAKE_INSTALL_PREFIX
+           BASE_DIRECTORY ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig OUTPUT_VARIABLE KESP_PC_TO_PREFIX)
+
+# install_library(TARGET): a library with its headers in a folder of their own, include/TARGET, its
+# CMake package (the target kesp::NAME, for a TARGET kesp_NAME) and its pkg-config file. It finds the
+# libraries that it needs itself beside it.
+function(install_library target)
+  string(REGEX REPLACE "^kesp_" "" name ${target})
+  set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/${target})
+  set_target_properties(${target} PROPERTIES
+    EXPORT_NAME ${name}
+    VERSION ${PROJECT_VERSION}
+    SOVERSION ${PROJECT_VERSION_MAJOR}
+    INSTALL_RPATH $ORIGIN)
+  install(TARGETS ${target} EXPORT ${target}Targets FILE_SET HEADERS
+          DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${target})
+  install(EXPORT ${target}Targets NAMESPACE kesp:: DESTINATION ${package_dir})
+
+  configure_package_config_file(${PROJECT_SOURCE_DIR}/cmake/config.cmake.in ${target}Config.cmake
+                                INSTALL_DESTINATION ${package_dir})
+  write_basic_package_version_file(${target}ConfigVersion.cmake COMPATIBILITY SameMajorVersion)
+  install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${target}Config.cmake
+                ${CMAKE_CURRENT_BINARY_DIR}/${target}ConfigVersion.cmake
+          DESTINATION ${package_dir})
+
+  configure_file(${PROJECT_SOURCE_DIR}/cmake/package.pc.in ${target}.pc @ONLY)
+  install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${target}.pc
+          DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+endfunction()

@@ -30,14 +30,15 @@ struct PrintBare {
 ExitStatus Get(dral::FuelGaugeIF& gauge, const std::string& name,
                const std::optional<dral::PropertyValue>& type, bool json) {
   const Property& property = FindProperty(name);
-  const auto [status, value] = gauge.Get(property.id, type.value_or(property.natural));
+  const dral::PropertyValue& hint = type ? *type : property.natural;
+  const auto [status, value] = gauge.Get(property.id, hint);
   if (json) {
     Print({{name, ToJson(status, value)}});
   } else if (status == FuelGaugeStatus::Success) {
     std::visit(PrintBare{}, value);
   }
   if (status != FuelGaugeStatus::Success) {
-    Complain(name + ": " + ExplainRead(gauge, property, status));
+    Complain(name + ": " + ExplainRead(gauge, property, hint, status));
   }
   return ToExitStatus(status);
 }

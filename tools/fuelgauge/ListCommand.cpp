@@ -51,7 +51,7 @@ ExitStatus List(dral::FuelGaugeIF& gauge, bool json) {
     } else if (status == FuelGaugeStatus::Success) {
       std::visit(PrintValue{property}, value);
     } else {
-      PrintRow(property.name, "-", ExplainRead(gauge, property, status));
+      PrintRow(property.name, "-", ExplainRead(gauge, property, property.natural, status));
     }
   }
   if (json) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Presentation.hpp"
 
+#include <algorithm>
 #include <iostream>
 
 #include "LifetimeField.hpp"
@@ -62,6 +63,15 @@ void PrintFields(const dral::LifetimeData& data) {
     const int value = field.Value(data);
     PrintRow("  " + std::string(field.name), ForPeople(value, field.unit), Raw(value, field.unit));
   }
+}
+
+std::string Printable(std::string_view text) {
+  constexpr std::size_t Most = 60;
+  std::string printable(text.substr(0, Most));
+  std::replace_if(
+      printable.begin(), printable.end(),
+      [](char byte) { return static_cast<unsigned char>(byte) < 0x20U || byte == 0x7F; }, '?');
+  return text.size() > Most ? printable + "..." : printable;
 }
 
 void Complain(std::string_view text) {

@@ -25,5 +25,8 @@ void PrintRow(std::string_view name, const std::string& value, const std::string
 /// Prints a row for each field of the record.
 void PrintFields(const dral::LifetimeData& data);
 
+/// @return @p text fit for a message: cut when it is long, and without control characters
+std::string Printable(std::string_view text);
+
 /// Prints "fuelgauge: @p text" to standard error.
 void Complain(std::string_view text);

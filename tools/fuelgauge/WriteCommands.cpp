@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
+#include <set>
+
 #include "Commands.hpp"
 #include "Gauge.hpp"
 #include "LifetimeField.hpp"
 #include "Presentation.hpp"
 #include "Property.hpp"
+#include "UsageError.hpp"
 
 using dral::FuelGaugeProperty;
 using dral::FuelGaugeStatus;
@@ -21,8 +24,8 @@ ExitStatus Refused(const Property& property, FuelGaugeStatus status) {
 
 ExitStatus Unreadable(dral::FuelGaugeIF& gauge, const Property& property, FuelGaugeStatus status,
                       std::string_view consequence) {
-  Complain(std::string(property.name) + ": " + ExplainRead(gauge, property, status) +
-           std::string(consequence));
+  Complain(std::string(property.name) + ": " +
+           ExplainRead(gauge, property, property.natural, status) + std::string(consequence));
   return ToExitStatus(status);
 }
 
@@ -62,8 +65,12 @@ ExitStatus Set(dral::FuelGaugeIF& gauge, const std::string& name,
     return Refused(property, gauge.Set(property.id, values.front()));
   }
   LifetimeData record;
-  for (const std::string& value : values) {
-    Assign(record, value);  // all words are judged before the gauge is touched
+  std::set<std::string> fields;
+  for (const std::string& value : values) {  // all are judged before the gauge is touched
+    Assign(record, value);
+    if (!fields.insert(value.substr(0, value.find('='))).second) {
+      throw UsageError("'" + value + "': the field is named twice");
+    }
   }
   const auto [status, held] = gauge.Get<LifetimeData>(property.id);
   if (status != FuelGaugeStatus::Success) {

@@ -40,11 +40,14 @@ ExitStatus Run(int argc, char** argv) {
   app.set_version_flag("--version", "fuelgauge " KESP_VERSION);
   app.add_option("--device", options.device,
                  "Folder of the gauge, instead of /sys/class/power_supply/bq27542-0")
-      ->type_name("DIR");
+      ->type_name("DIR")
+      // An empty one, as from a script's unset variable, must not mean the real gauge.
+      ->check([](const std::string& device) {
+        return std::string(device.empty() ? "the folder's name is empty" : "");
+      });
   app.add_option("--lifetime-file", options.lifetimeFile,
                  "Fields that replace those of the lifetime record's reset value")
-      ->type_name("FILE")
-      ->check(CLI::Validator(CLI::ExistingFile).description(""));
+      ->type_name("FILE");
   app.add_flag("-v,--verbose", options.verbose, "Show the library's log on standard error");
 
   CLI::App* const list = app.add_subcommand("list", "Show every property");

@@ -3,6 +3,8 @@
 
 #include <cstdint>
 #include <exception>
+#include <type_traits>
+#include <variant>
 
 #include "LifetimeDataParser.hpp"
 #include "Log.hpp"
@@ -10,6 +12,19 @@
 #include "Writable.hpp"
 
 namespace dral {
+namespace {
+
+// A hint of the same type, without its content: GCC 12's std::variant crashes when there is no memory
+// to copy a long string in it.
+PropertyValue BlankLike(const PropertyValue& hint) {
+  return std::visit(
+      [](const auto& held) {
+        return PropertyValue(std::in_place_type<std::decay_t<decltype(held)>>);
+      },
+      hint);
+}
+
+}  // namespace
 
 Bq27542FuelGauge::Bq27542FuelGauge(std::string_view lifetimeResetPath,
                                    std::unique_ptr<PropertyMap> propertyMap) {
@@ -63,7 +78,7 @@ std::pair<FuelGaugeStatus, PropertyValue> Bq27542FuelGauge::DoGet(FuelGaugePrope
   }
   try {
     const std::scoped_lock lock(mutex);
-    return Readable(property, propertyMap).Get(value);
+    return Readable(property, propertyMap).Get(BlankLike(value));
   } catch (const std::exception& exception) {
     KESP_LOG(LogFailure) << "Failed to get property: " << static_cast<std::uint32_t>(property)
                          << "ex: " << exception.what();

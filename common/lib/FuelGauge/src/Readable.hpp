@@ -45,9 +45,10 @@ class KESP_EXPORT Readable {
 template <typename T>
 std::pair<FuelGaugeStatus, T> Readable::GetBinaryFileContents(const std::string& path) {
   T record{};
+  char unused = 0;
   std::ifstream file;
   file.imbue(std::locale::classic());   // the global locale may convert characters
-  file.rdbuf()->pubsetbuf(nullptr, 0);  // no buffer, so that nothing past the record is read
+  file.rdbuf()->pubsetbuf(&unused, 1);  // no buffer, so that nothing past the record is read
   file.open(path, std::ios::in | std::ios::binary);
   if (!file) {
     const int error = errno;

@@ -42,12 +42,13 @@ struct WriteTo {
 
   template <typename T>
   FuelGaugeStatus operator()(const T& value) const {
-    // Before the file is opened, which empties it.
+    // All memory is had before the file is opened, which empties it.
     const auto& contents = FileContents(value);
     constexpr bool Binary = std::is_same_v<T, LifetimeData>;
+    char unused = 0;
     std::ofstream file;
     file.imbue(std::locale::classic());   // the global locale may convert characters
-    file.rdbuf()->pubsetbuf(nullptr, 0);  // the contents go out in one piece, as sysfs wants them
+    file.rdbuf()->pubsetbuf(&unused, 1);  // the contents go out in one piece, as sysfs wants them
     file.open(location,
               std::ios::out | std::ios::trunc | (Binary ? std::ios::binary : std::ios::openmode{}));
     if (!file) {

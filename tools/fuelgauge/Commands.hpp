@@ -2,6 +2,7 @@
 #pragma once
 
 #include <FuelGaugeIF.hpp>
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <vector>
@@ -22,3 +23,15 @@ ExitStatus Set(dral::FuelGaugeIF& gauge, const std::string& name,
                const std::vector<std::string>& values);
 
 ExitStatus Reset(dral::FuelGaugeIF& gauge, const std::string& name);
+
+struct WatchOptions {
+  enum class Format { Plain, Csv, Json };
+
+  double intervalSeconds = 1;
+  std::uint64_t count = 0;  ///< samples to take; 0: until stopped
+  Format format = Format::Plain;
+};
+
+/// Prints a line for each sample, flushed, or redraws one table on a terminal, until @p options say
+/// it is enough, Ctrl-C or the end of who reads the output.
+ExitStatus Watch(dral::FuelGaugeIF& gauge, const WatchOptions& options);

@@ -1,65 +1,43 @@
 // SPDX-License-Identifier: MIT
-#include <optional>
+#include <algorithm>
 
 #include "Commands.hpp"
 #include "Gauge.hpp"
 #include "Presentation.hpp"
-#include "Property.hpp"
+#include "Reading.hpp"
 #include "Units.hpp"
-
-using dral::FuelGaugeProperty;
-using dral::FuelGaugeStatus;
 
 namespace {
 
-// Prints a value of the property's natural type.
-struct PrintValue {
-  const Property& property;
-
-  void operator()(const std::string& text) const { PrintRow(property.name, text, ""); }
-  void operator()(bool flag) const { PrintRow(property.name, flag ? "yes" : "no", ""); }
-  void operator()(const dral::LifetimeData& data) const {
-    PrintRow(property.name, "", "");
-    PrintFields(data);
+// What is worth saying beside a value: the raw number where people use another unit.
+std::string Remark(dral::FuelGaugeIF& gauge, const Reading& reading) {
+  const Property& property = *reading.property;
+  if (!reading.Succeeded()) {
+    return ExplainRead(gauge, property, property.natural, reading.status);
   }
-  template <typename Number>
-  void operator()(Number number) const {
-    const bool converted = property.unit != Unit::None && property.unit != Unit::Percent;
-    PrintRow(property.name, ForPeople(number, property.unit),
-             converted ? Raw(number, property.unit) : "");
-  }
-};
+  const auto number = Number(reading);
+  const bool converted = property.unit != Unit::None && property.unit != Unit::Percent;
+  return number && converted ? Raw(*number, property.unit) : "";
+}
 
 }  // namespace
 
 ExitStatus List(dral::FuelGaugeIF& gauge, bool json) {
-  Json answers;
-  bool anyRead = false;
-  std::optional<FuelGaugeStatus> firstFailure;
-  for (const Property& property : Properties) {
-    if (property.id == FuelGaugeProperty::LifetimeDataResetValue) {
-      continue;  // not read from the gauge
-    }
-    const auto [status, value] = gauge.Get(property.id, property.natural);
-    if (status == FuelGaugeStatus::Success) {
-      anyRead = true;
-    } else if (!firstFailure) {
-      firstFailure = status;
-    }
-    if (json) {
-      answers[std::string(property.name)] = ToJson(status, value);
-    } else if (status == FuelGaugeStatus::Success) {
-      std::visit(PrintValue{property}, value);
-    } else {
-      PrintRow(property.name, "-", ExplainRead(gauge, property, property.natural, status));
-    }
-  }
+  const std::vector<Reading> readings = ReadAll(gauge);
   if (json) {
-    Print(answers);
+    Print(ToJson(readings));
+  } else {
+    for (const Reading& reading : readings) {
+      PrintRow(reading.property->name, ForPeople(reading), Remark(gauge, reading));
+      if (const auto* record = std::get_if<dral::LifetimeData>(&reading.value);
+          record != nullptr && reading.Succeeded()) {
+        PrintFields(*record);
+      }
+    }
   }
-  if (!anyRead) {
+  if (!AnySucceeded(readings)) {
     Complain("no property could be read: is there a gauge, and is its driver loaded?");
-    return ToExitStatus(*firstFailure);
+    return ToExitStatus(readings.front().status);
   }
   return ExitStatus::Success;
 }

@@ -48,8 +48,31 @@ Json ToJson(FuelGaugeStatus status, const dral::PropertyValue& value) {
   return answer;
 }
 
+Json ToJson(const std::vector<Reading>& readings) {
+  Json answers;
+  for (const Reading& reading : readings) {
+    answers[std::string(reading.property->name)] = ToJson(reading.status, reading.value);
+  }
+  return answers;
+}
+
 void Print(const Json& json) {
   std::cout << json.dump(2, ' ', false, Json::error_handler_t::replace) << "\n";
+}
+
+void PrintCompact(const Json& json) {
+  std::cout << json.dump(-1, ' ', false, Json::error_handler_t::replace) << "\n";
+}
+
+std::string CsvField(const std::string& text) {
+  if (text.find_first_of(",\"\r\n") == std::string::npos) {
+    return text;
+  }
+  std::string field = "\"";
+  for (const char byte : text) {
+    field.append(byte == '"' ? 2 : 1, byte);
+  }
+  return field.append("\"");
 }
 
 void PrintRow(std::string_view name, const std::string& value, const std::string& remark) {

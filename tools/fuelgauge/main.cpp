@@ -1,5 +1,10 @@
 // SPDX-License-Identifier: MIT
+#include <poll.h>
+#include <unistd.h>
+
 #include <CLI/CLI.hpp>
+#include <charconv>
+#include <csignal>
 #include <cstdlib>
 #include <exception>
 #include <iostream>
@@ -29,7 +34,33 @@ struct Options {
   std::string property;
   std::string type;
   std::vector<std::string> values;
+  bool csv = false;
+  WatchOptions watch;
 };
+
+// CLI11's own range check takes "nan" and words it less clearly.
+std::string Seconds(const std::string& text) {
+  double seconds = 0;
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), seconds);
+  return error == std::errc() && end == text.data() + text.size() && seconds >= 0.1 &&
+                 seconds <= 86400
+             ? ""
+             : "'" + text + "' is not a number of seconds from 0.1 to 86400";
+}
+
+std::string WholeNumber(const std::string& text) {
+  std::uint64_t number = 0;
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+  return error == std::errc() && end == text.data() + text.size() && number > 0
+             ? ""
+             : "'" + text + "' is not a whole number above 0";
+}
+
+// Whether nobody reads the output any more, as after `fuelgauge list | head -1`: no fault of ours.
+bool ReaderIsGone() {
+  pollfd output{STDOUT_FILENO, POLLOUT, 0};
+  return ::poll(&output, 1, 0) > 0 && (output.revents & POLLERR) != 0;
+}
 
 ExitStatus Run(int argc, char** argv) {
   Options options;
@@ -69,6 +100,19 @@ ExitStatus Run(int argc, char** argv) {
       app.add_subcommand("reset", "Write the lifetime record's reset value, and read it back");
   reset->add_option("PROPERTY", options.property, "LifetimeData")->required();
 
+  CLI::App* const watch = app.add_subcommand("watch", "Show a sample again and again");
+  watch
+      ->add_option("--interval", options.watch.intervalSeconds,
+                   "Seconds between samples, 0.1 to 86400; without it 1")
+      ->type_name("S")
+      ->check(Seconds);
+  watch->add_option("--count", options.watch.count, "Samples to take; without it until Ctrl-C")
+      ->type_name("N")
+      ->check(WholeNumber);
+  CLI::Option* const csv =
+      watch->add_flag("--csv", options.csv, "A header, then a line of raw numbers a sample");
+  watch->add_flag("--json", options.json, "A line of JSON a sample")->excludes(csv);
+
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& error) {
@@ -101,6 +145,11 @@ ExitStatus Run(int argc, char** argv) {
   if (set->parsed()) {
     return Set(*gauge, options.property, options.values);
   }
+  if (watch->parsed()) {
+    using Format = WatchOptions::Format;
+    options.watch.format = options.csv ? Format::Csv : options.json ? Format::Json : Format::Plain;
+    return Watch(*gauge, options.watch);
+  }
   return Reset(*gauge, options.property);
 }
 
@@ -119,8 +168,9 @@ ExitStatus RunAndReport(int argc, char** argv) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  std::signal(SIGPIPE, SIG_IGN);
   ExitStatus status = RunAndReport(argc, argv);
-  if (!std::cout.flush()) {
+  if (!std::cout.flush() && !ReaderIsGone()) {
     Complain("the output could not be written");
     status = ExitStatus::OutputError;
   }

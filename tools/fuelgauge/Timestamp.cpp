@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: MIT
+#include "Timestamp.hpp"
+
+#include <array>
+#include <ctime>
+
+std::string Timestamp(std::chrono::system_clock::time_point time) {
+  using std::chrono::milliseconds;
+  const auto sinceEpoch = std::chrono::floor<milliseconds>(time.time_since_epoch());
+  const auto second = std::chrono::floor<std::chrono::seconds>(sinceEpoch);
+  const std::time_t whole = second.count();
+  std::tm parts{};
+  ::gmtime_r(&whole, &parts);
+  std::array<char, sizeof "2026-11-25T09:30:00"> text{};
+  std::strftime(text.data(), text.size(), "%Y-%m-%dT%H:%M:%S", &parts);
+  const std::string fraction = std::to_string(1000 + (sinceEpoch - second).count());
+  return std::string(text.data()).append(".").append(fraction, 1).append("Z");
+}

@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+#include "Presentation.hpp"
+
+#include <gtest/gtest.h>
+
+#include "Screen.hpp"
+#include "Timestamp.hpp"
+
+namespace {
+
+TEST(Presentation, CsvFieldsAreQuotedWhereTheyMustBe) {
+  EXPECT_EQ(CsvField("Not charging"), "Not charging");
+  EXPECT_EQ(CsvField("a,\"b\"\n"), "\"a,\"\"b\"\"\n\"");
+}
+
+TEST(Presentation, PrintableTextIsCutAndHasNoControlCharacters) {
+  EXPECT_EQ(Printable("a\x1b[2Jb\n\x7f"), "a?[2Jb??");
+  EXPECT_EQ(Printable(std::string(61, 'x')), std::string(60, 'x') + "...");
+}
+
+TEST(Screen, BarsAndSparklinesHoldWhatTheGaugeMaySay) {
+  EXPECT_EQ(Bar(74, 10), "[#######...]");
+  EXPECT_EQ(Bar(65535, 4) + Bar(-1, 4), "[####][....]");
+  EXPECT_EQ(Sparkline({}), "");
+  EXPECT_EQ(Sparkline({5, std::nullopt, 5}), "▁ ▁");
+  EXPECT_EQ(Sparkline({-2147483647 - 1, 0, 2147483647}), "▁▄█");
+}
+
+TEST(Timestamp, IsInUtcToTheMillisecond) {
+  const std::chrono::system_clock::time_point epoch;
+  EXPECT_EQ(Timestamp(epoch + std::chrono::milliseconds(1005)), "1970-01-01T00:00:01.005Z");
+  EXPECT_EQ(Timestamp(epoch + std::chrono::seconds(4102444800)), "2100-01-01T00:00:00.000Z");
+}
+
+}  // namespace

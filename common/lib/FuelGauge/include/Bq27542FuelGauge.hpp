@@ -24,23 +24,25 @@ namespace dral {
 /// Thread-safe but for `UpdateResetPropertyValues`. Every read opens its file anew.
 class KESP_EXPORT Bq27542FuelGauge : public FuelGaugeIF {
  public:
-  /// The properties of the device `bq27542-0`. All are read-only but the lifetime record.
-  static const PropertyInfo NamePropertyInfo;
-  static const PropertyInfo TechnologyPropertyInfo;
-  static const PropertyInfo StatusPropertyInfo;
-  static const PropertyInfo PresentPropertyInfo;
-  static const PropertyInfo VoltageNowPropertyInfo;
-  static const PropertyInfo CurrentNowPropertyInfo;
-  static const PropertyInfo StateOfChargePropertyInfo;
-  static const PropertyInfo ChargeLevelPropertyInfo;
-  static const PropertyInfo TemperaturePropertyInfo;
-  static const PropertyInfo NominalAvailableCapacityPropertyInfo;
-  static const PropertyInfo FullChargeCapacityPropertyInfo;
-  static const PropertyInfo CycleCountPropertyInfo;
-  static const PropertyInfo PowerAveragePropertyInfo;
-  static const PropertyInfo HealthPropertyInfo;
-  static const PropertyInfo TimeToEmptyPropertyInfo;
-  static const PropertyInfo LifetimeDataPropertyInfo;
+  // The properties of the device `bq27542-0`, each with the name of its file. All are read-only but the
+  // last.
+  static const PropertyInfo NamePropertyInfo;                      ///< manufacturer
+  static const PropertyInfo TechnologyPropertyInfo;                ///< technology
+  static const PropertyInfo StatusPropertyInfo;                    ///< status
+  static const PropertyInfo PresentPropertyInfo;                   ///< present
+  static const PropertyInfo VoltageNowPropertyInfo;                ///< voltage_now
+  static const PropertyInfo CurrentNowPropertyInfo;                ///< current_now
+  static const PropertyInfo StateOfChargePropertyInfo;             ///< capacity
+  static const PropertyInfo ChargeLevelPropertyInfo;               ///< capacity_level
+  static const PropertyInfo TemperaturePropertyInfo;               ///< temp
+  static const PropertyInfo NominalAvailableCapacityPropertyInfo;  ///< charge_now
+  static const PropertyInfo FullChargeCapacityPropertyInfo;        ///< charge_full
+  static const PropertyInfo CycleCountPropertyInfo;                ///< cycle_count
+  static const PropertyInfo PowerAveragePropertyInfo;              ///< power_avg
+  static const PropertyInfo HealthPropertyInfo;                    ///< health
+  static const PropertyInfo TimeToEmptyPropertyInfo;               ///< time_to_empty_now
+  static const PropertyInfo
+      LifetimeDataPropertyInfo;  ///< lifetime_data; settable, reset to the default record
 
   /// @return the sixteen properties with their files in @p directory instead, for the constructor
   static std::unique_ptr<PropertyMap> PropertyMapAt(std::string_view directory);

@@ -68,12 +68,16 @@ class KESP_EXPORT FuelGaugeIF {
   FuelGaugeStatus Reset(FuelGaugeProperty property);
 
  protected:
-  /// What an implementation supplies; each serves the operation of its name. They are called from
-  /// several threads at once, and what they throw reaches the caller: to keep the promises above,
-  /// an implementation serialises its file operations and turns its exceptions into statuses.
+  // What an implementation supplies. The hooks are called from several threads at once, and what they
+  // throw reaches the caller: to keep the promises above, an implementation serialises its file
+  // operations and turns its exceptions into statuses.
+
+  /// Serves `Set`.
   virtual FuelGaugeStatus DoSet(FuelGaugeProperty property, PropertyValue value) = 0;
+  /// Serves `Get`.
   virtual std::pair<FuelGaugeStatus, PropertyValue> DoGet(FuelGaugeProperty property,
                                                           PropertyValue hint) = 0;
+  /// Serves `Reset`.
   virtual FuelGaugeStatus DoReset(FuelGaugeProperty property) = 0;
 
  private:

@@ -16,16 +16,20 @@ namespace dral {
 /// in mV, currents in mA. A default-constructed record is what a reset writes, unless
 /// an override file says otherwise.
 struct KESP_EXPORT LifetimeData {
-  static constexpr std::int16_t LifetimeMinTemp = -600;  ///< lowest valid temperature
-  static constexpr std::int16_t LifetimeMaxTemp = 1400;  ///< highest valid temperature
-  static constexpr std::int16_t DefaultResetMaxTemp = 600;
-  static constexpr std::int16_t DefaultResetMinTemp = -200;
-  static constexpr std::uint16_t DefaultResetMaxPackVoltage = 4450;
-  static constexpr std::uint16_t DefaultResetMinPackVoltage = 2500;
+  static constexpr std::int16_t LifetimeMinTemp = -600;      ///< lowest valid temperature
+  static constexpr std::int16_t LifetimeMaxTemp = 1400;      ///< highest valid temperature
+  static constexpr std::int16_t DefaultResetMaxTemp = 600;   ///< default of `maxTemp`
+  static constexpr std::int16_t DefaultResetMinTemp = -200;  ///< default of `minTemp`
+  static constexpr std::uint16_t DefaultResetMaxPackVoltage =
+      4450;  ///< default of `maxPackVoltage`
+  static constexpr std::uint16_t DefaultResetMinPackVoltage =
+      2500;                                                   ///< default of `minPackVoltage`
   static constexpr std::int16_t LifetimeMinCurrent = -32767;  ///< lowest valid current
   static constexpr std::int16_t LifetimeMaxCurrent = 32767;   ///< highest valid current
-  static constexpr std::int16_t DefaultResetMaxChargeCurrent = 3000;
-  static constexpr std::int16_t DefaultResetMaxDischargeCurrent = -1500;
+  static constexpr std::int16_t DefaultResetMaxChargeCurrent =
+      3000;  ///< default of `maxChargeCurrent`
+  static constexpr std::int16_t DefaultResetMaxDischargeCurrent =
+      -1500;  ///< default of `maxDischargeCurrent`
 
   std::int16_t maxTemp = DefaultResetMaxTemp;                    ///< 0.1 °C
   std::int16_t minTemp = DefaultResetMinTemp;                    ///< 0.1 °C

@@ -27,8 +27,8 @@ class KESP_EXPORT LifetimeDataParser {
  public:
   /// One entry of the file, read by its `operator>>`.
   struct kv_pair {
-    std::string key;
-    std::string value;
+    std::string key;    ///< a field's name
+    std::string value;  ///< its number, as text
   };
 
   /// Converts a value's text and stores it in its field of the record.

@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: MIT
+// Reads one value and believes it only when the status says so.
+#include <FuelGaugeIF.hpp>
+#include <iostream>
+
+using namespace dral;
+
+int main() {
+  const auto gauge =
+      InterfaceFactory::Create<FuelGaugeIF, std::string_view>("Bq27542FuelGauge", "");
+  const auto [status, microvolts] = gauge->Get<int>(FuelGaugeProperty::VoltageNow);
+  if (status != FuelGaugeStatus::Success) {
+    return 1;
+  }
+  std::cout << "The battery has " << microvolts << " µV\n";
+}

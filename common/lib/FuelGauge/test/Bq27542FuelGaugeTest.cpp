@@ -7,7 +7,6 @@
 #include <chrono>
 #include <future>
 #include <locale>
-#include <thread>
 
 #include "support/LogCapture.hpp"
 #include "support/Outcome.hpp"
@@ -239,40 +238,6 @@ TEST(Bq27542FuelGauge, IgnoresTheGlobalLocale) {
   for (const char* part : {"definition: 12345\n", "property: 12345ex: ", "Type: 4200 : "}) {
     EXPECT_NE(records.find(part), std::string::npos) << records;
   }
-}
-
-TEST(Bq27542FuelGaugeThreads, OperationsOnOneObjectNeverOverlap) {
-  const TemporaryFolder folder;
-  folder.Write("lifetime_data", Bytes(LifetimeData{}));
-  auto map = Bq27542FuelGauge::PropertyMapAt(folder.At(""));
-  map->at(FuelGaugeProperty::LifetimeData).resetValue = LifetimeData{0, 0, 1, 1, 0, 0};
-  Bq27542FuelGauge gauge("", std::move(map));
-  const auto work = [&gauge](std::int16_t number) {
-    int torn = 0;
-    for (int round = 0; round < 500; ++round) {
-      LifetimeData record{number, number, 1, 1, number, number};
-      record.reserved.fill(static_cast<std::uint8_t>(number));
-      gauge.Set(FuelGaugeProperty::LifetimeData, record);
-      gauge.Get<int>(FuelGaugeProperty{17});
-      gauge.Reset(FuelGaugeProperty::LifetimeData);
-      const auto [status, read] = gauge.Get<LifetimeData>(FuelGaugeProperty::LifetimeData);
-      torn += status != FuelGaugeStatus::Success || read.maxTemp != read.maxDischargeCurrent ||
-                      read.reserved[19] != static_cast<std::uint8_t>(read.maxTemp)
-                  ? 1
-                  : 0;
-    }
-    return torn;
-  };
-  LogCapture log(3);
-  std::vector<std::future<int>> threads;
-  for (std::int16_t number = 1; number <= 4; ++number) {
-    threads.push_back(std::async(std::launch::async, work, number));
-  }
-  for (auto& thread : threads) {
-    EXPECT_EQ(thread.get(), 0);
-  }
-  const std::string records = log.Take();
-  EXPECT_EQ(std::count(records.begin(), records.end(), '\n'), 4 * 500 * 2);
 }
 
 }  // namespace

@@ -7,10 +7,10 @@
 #include <iterator>
 #include <string>
 
-/// A folder of its own, gone with the object.
+/// A folder of its own in memory, gone with the object.
 class TemporaryFolder {
  public:
-  TemporaryFolder() : path(::mkdtemp(std::string("/tmp/fuelgauge-XXXXXX").data())) {}
+  TemporaryFolder() : path(::mkdtemp(std::string("/dev/shm/fuelgauge-XXXXXX").data())) {}
   ~TemporaryFolder() { std::filesystem::remove_all(path); }
   TemporaryFolder(const TemporaryFolder&) = delete;
   TemporaryFolder& operator=(const TemporaryFolder&) = delete;

@@ -96,6 +96,9 @@ TEST(Bq27542FuelGauge, TurnsExceptionsIntoLoggedFailures) {
             "FuelGaugeProperty definition\n");
   dral::LogOutput::SetLevel(dral::LogLevel{2});
   EXPECT_EQ(Describe(gauge.Get(FuelGaugeProperty{99}, 5)), "2 int 5");
+  EXPECT_EQ(Describe(gauge.Set(FuelGaugeProperty{99}, 5)), "2");
+  EXPECT_EQ(Describe(gauge.Reset(FuelGaugeProperty{99})), "2");
+  gauge.DumpPropertyMap();
   EXPECT_EQ(log.Take(), "");
 }
 

@@ -84,6 +84,7 @@ TEST(Readable, AnUnsignedBeyond32BitsIsLoggedAndThrownWithItsText) {
                                                        {" 4294967296 x", "4294967296"}};
   for (const auto& [text, value] : cases) {
     EXPECT_EQ(Get(folder.Write("value", text), Unsigned), "out_of_range " + text);
+    log.Quietly([&] { return Get(folder.At("value"), Unsigned); });
     EXPECT_EQ(log.Take(),
               "3 Readable operator(): Value out of range for unsigned int: " + value + "\n");
   }
@@ -128,6 +129,8 @@ TEST(Readable, TellsAFileThatCannotBeOpenedFromOneThatGivesNothing) {
   for (const Case& each : cases) {
     EXPECT_EQ(Get(each.path, each.hint), each.outcome) << each.path;
     EXPECT_EQ(log.Take(), "3 Readable " + each.record + "\n") << each.path;
+    EXPECT_EQ(log.Quietly([&] { return Get(each.path, each.hint); }), each.outcome);
+    EXPECT_EQ(log.Take(), "") << each.path;
   }
 }
 
@@ -135,6 +138,7 @@ TEST(Readable, RefusesAPropertyWithoutEntryOrFileWhateverTheHint) {
   LogCapture log;
   for (const PropertyValue& hint : {Text, Int, Unsigned, Bool, Binary}) {
     EXPECT_EQ(Get("", hint), "logic_error Readable Missing FuelGaugeProperty filepath");
+    log.Quietly([&] { return Get("", hint); });
     EXPECT_EQ(log.Take(), "3 Readable Get: FuelGaugeProperty:4not resettable, filepath empty\n");
     EXPECT_EQ(Outcome([&] { return Readable(FuelGaugeProperty{17}, {}).Get(hint); }),
               "logic_error Readable Missing FuelGaugeProperty definition");

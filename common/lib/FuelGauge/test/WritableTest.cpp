@@ -96,6 +96,9 @@ TEST(Writable, RefusesBeforeItTouchesTheFile) {
     EXPECT_EQ(log.Take(), record + record) << each.title;
     EXPECT_EQ(Reset(each.map), each.outcome) << each.title;
     EXPECT_EQ(log.Take(), record) << each.title;
+    EXPECT_EQ(log.Quietly([&] { return Reset(each.map) + Set(each.map, "text"); }),
+              each.outcome + each.outcome);
+    EXPECT_EQ(log.Take(), "") << each.title;
   }
   EXPECT_EQ(folder.Read("kept"), "kept");
   EXPECT_FALSE(std::filesystem::exists(missing));

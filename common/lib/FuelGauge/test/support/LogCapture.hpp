@@ -16,6 +16,15 @@ class LogCapture {
   LogCapture(const LogCapture&) = delete;
   LogCapture& operator=(const LogCapture&) = delete;
 
+  /// @return what @p call answers with every level off
+  template <typename Call>
+  static auto Quietly(Call call) {
+    dral::LogOutput::SetLevel(dral::LogLevel{0});
+    auto answer = call();
+    dral::LogOutput::SetLevel(dral::LogLevel{8});
+    return answer;
+  }
+
   /// @return the records since the last call, each as a line "level source function: text"
   std::string Take() { return std::exchange(lines, {}); }
 

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
 #include <Path.hpp>
+#include <cstdio>
 
 namespace {
 
@@ -15,6 +18,20 @@ TEST(Path, ExistsAsStatSeesIt) {
   EXPECT_FALSE(Exists("/dev/null/x"));
   EXPECT_FALSE(Exists("/no such file"));
   EXPECT_FALSE(Exists(""));
+}
+
+TEST(Path, AFileWhoseTimeOrSizeTakesMoreThan32BitsExists) {
+  std::FILE* const file = std::tmpfile();
+  ASSERT_NE(file, nullptr);
+  const int descriptor = ::fileno(file);
+  const std::string path = "/proc/self/fd/" + std::to_string(descriptor);
+  const timespec year2040{.tv_sec = 2208988800, .tv_nsec = 0};
+  const timespec times[] = {year2040, year2040};
+  EXPECT_EQ(::futimens(descriptor, times), 0);
+  EXPECT_TRUE(Exists(path)) << "of the year 2040";
+  EXPECT_EQ(::ftruncate(descriptor, off_t{1} << 32), 0);  // which also sets the time to now
+  EXPECT_TRUE(Exists(path)) << "of 4 GiB";
+  EXPECT_EQ(std::fclose(file), 0);
 }
 
 TEST(Path, AsksTheLinuxApiThatItWasGiven) {

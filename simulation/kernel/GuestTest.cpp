@@ -271,23 +271,34 @@ TEST_F(Guest, UnboundAndBoundAgainWhileTwoThreadsRead) {
   const Knob slow("bus_delay_ms", 2);  // so that reads are under way when the device goes
   const auto before = OpenFiles();
   std::atomic<bool> stop = false;
-  // Each kind of answer: a property's number, as what it was read, and the status.
-  const auto read = [&] {
+  std::array<std::atomic<int>, 2> passes{};
+  // Each kind of answer: what was read, and the status.
+  const auto read = [&](std::atomic<int>& pass) {
     std::set<std::string> answers;
-    while (!stop) {
+    for (; !stop; ++pass) {
       answers.insert("text " + Get(FuelGaugeProperty::Status, "").substr(0, 2));
       answers.insert("number " + Get(FuelGaugeProperty::VoltageNow, 99));
       answers.insert("record " + Get(FuelGaugeProperty::LifetimeData, LifetimeData{}).substr(0, 2));
     }
     return answers;
   };
-  std::future<std::set<std::string>> threads[] = {std::async(std::launch::async, read),
-                                                  std::async(std::launch::async, read)};
+  std::future<std::set<std::string>> threads[] = {
+      std::async(std::launch::async, read, std::ref(passes[0])),
+      std::async(std::launch::async, read, std::ref(passes[1]))};
+  // The second pass that ends from now on began from now on. Waiting for a time instead would leave
+  // it to chance whether a thread sees the device, or its absence, at all.
+  const auto letBothRead = [&] {
+    for (auto& pass : passes) {
+      for (const int start = pass; pass < start + 2;) {
+        std::this_thread::sleep_for(milliseconds(1));
+      }
+    }
+  };
   for (int round = 0; round < 20; ++round) {
-    std::this_thread::sleep_for(milliseconds(25));
+    letBothRead();
     Unbind();
     EXPECT_EQ(PlainRead(Supply + "status"), "ENOENT");
-    std::this_thread::sleep_for(milliseconds(25));
+    letBothRead();
     Bind();
   }
   stop = true;

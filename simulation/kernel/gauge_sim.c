@@ -120,8 +120,8 @@ static int fault(enum fault which)
 /* What befalls everything that goes over the bus. */
 static int bus_access(void)
 {
-	if (fault(BUS_DELAY))
-		msleep(fault(BUS_DELAY));
+	/* msleep() would make a few milliseconds many. */
+	fsleep(fault(BUS_DELAY) * USEC_PER_MSEC);
 	return -fault(BUS_ERROR);
 }
 

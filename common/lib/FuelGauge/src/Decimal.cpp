@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "Decimal.hpp"
 
-#include <algorithm>
 #include <charconv>
 #include <limits>
 #include <stdexcept>
@@ -15,8 +14,14 @@ struct Decimal {
   std::uint64_t magnitude;
 };
 
+bool IsSpace(char byte) {
+  return byte == ' ' || ('\t' <= byte && byte <= '\r');
+}
+
 Decimal Parse(std::string_view text, const char* name) {
-  text.remove_prefix(std::min(text.find_first_not_of(" \t\n\v\f\r"), text.size()));
+  while (!text.empty() && IsSpace(text.front())) {
+    text.remove_prefix(1);
+  }
   const bool negative = !text.empty() && text.front() == '-';
   if (negative || (!text.empty() && text.front() == '+')) {
     text.remove_prefix(1);

@@ -72,8 +72,10 @@ std::pair<FuelGaugeStatus, PropertyValue> Readable::Get(PropertyValue hint) cons
 std::pair<FuelGaugeStatus, std::string> Readable::GetTextFileContents(const std::string& path) {
   char unused = 0;
   std::filebuf file;
-  file.pubimbue(std::locale::classic());  // the global locale may convert characters
-  file.pubsetbuf(&unused, 1);             // the block below is the only buffer
+  if (file.getloc() != std::locale::classic()) {  // the global locale may convert characters
+    file.pubimbue(std::locale::classic());
+  }
+  file.pubsetbuf(&unused, 1);  // the block below is the only buffer
   if (file.open(path, std::ios::in) == nullptr) {
     const int error = errno;
     KESP_LOG(LogFailure) << "Readable::Get failed to open file: " << path

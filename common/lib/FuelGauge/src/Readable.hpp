@@ -47,7 +47,9 @@ std::pair<FuelGaugeStatus, T> Readable::GetBinaryFileContents(const std::string&
   T record{};
   char unused = 0;
   std::ifstream file;
-  file.imbue(std::locale::classic());   // the global locale may convert characters
+  if (file.getloc() != std::locale::classic()) {  // the global locale may convert characters
+    file.imbue(std::locale::classic());
+  }
   file.rdbuf()->pubsetbuf(&unused, 1);  // no buffer, so that nothing past the record is read
   file.open(path, std::ios::in | std::ios::binary);
   if (!file) {

@@ -47,7 +47,9 @@ struct WriteTo {
     constexpr bool Binary = std::is_same_v<T, LifetimeData>;
     char unused = 0;
     std::ofstream file;
-    file.imbue(std::locale::classic());   // the global locale may convert characters
+    if (file.getloc() != std::locale::classic()) {  // the global locale may convert characters
+      file.imbue(std::locale::classic());
+    }
     file.rdbuf()->pubsetbuf(&unused, 1);  // the contents go out in one piece, as sysfs wants them
     file.open(location,
               std::ios::out | std::ios::trunc | (Binary ? std::ios::binary : std::ios::openmode{}));

@@ -24,6 +24,12 @@ ExitStatus Set(dral::FuelGaugeIF& gauge, const std::string& name,
 
 ExitStatus Reset(dral::FuelGaugeIF& gauge, const std::string& name);
 
+/// @param output the file to put in place; empty: standard output
+ExitStatus Metrics(dral::FuelGaugeIF& gauge, const std::string& output);
+
+/// Holds what the gauge says against the rules (see `Rule`).
+ExitStatus Check(dral::FuelGaugeIF& gauge, bool json);
+
 struct WatchOptions {
   enum class Format { Plain, Csv, Json };
 

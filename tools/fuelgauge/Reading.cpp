@@ -6,12 +6,27 @@
 
 #include "Units.hpp"
 
+namespace {
+
+using dral::FuelGaugeStatus;
+
+FuelGaugeStatus Cause(dral::FuelGaugeIF& gauge, dral::FuelGaugeProperty id,
+                      FuelGaugeStatus status) {
+  if (status != FuelGaugeStatus::Failure) {
+    return status;
+  }
+  const FuelGaugeStatus asText = gauge.Get<std::string>(id).first;
+  return asText == FuelGaugeStatus::Success ? status : asText;
+}
+
+}  // namespace
+
 std::vector<Reading> ReadAll(dral::FuelGaugeIF& gauge) {
   std::vector<Reading> readings;
   for (const Property& property : Properties) {
     if (property.id != dral::FuelGaugeProperty::LifetimeDataResetValue) {  // it has no file
       auto [status, value] = gauge.Get(property.id, property.natural);
-      readings.push_back({&property, status, std::move(value)});
+      readings.push_back({&property, status, std::move(value), Cause(gauge, property.id, status)});
     }
   }
   return readings;

@@ -13,6 +13,8 @@ struct Reading {
   const Property* property;
   dral::FuelGaugeStatus status;
   dral::PropertyValue value;
+  /// The status, or for a number, whose failure has but one: that of a second read, as text.
+  dral::FuelGaugeStatus cause;
 
   bool Succeeded() const { return status == dral::FuelGaugeStatus::Success; }
 };

@@ -3,6 +3,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
@@ -26,27 +27,32 @@ struct NumberMetric {
   std::string_view name;
   std::string_view type;
   std::string_view help;
-  std::int64_t factor;
+  int factor;
   int decimals;
 };
 
 // Charges are in coulombs: the convention asks for base units, and finds fault with hours in a name.
 // Cycles only grow, until the gauge is replaced: a counter, whose reset Prometheus understands.
-constexpr NumberMetric NumberMetrics[] = {
-    {FuelGaugeProperty::Present, "present", "gauge", "Whether a battery is present.", 1, 0},
-    {FuelGaugeProperty::VoltageNow, "voltage_volts", "gauge", "Battery voltage.", 1, 6},
-    {FuelGaugeProperty::CurrentNow, "current_amperes", "gauge",
-     "Battery current with the kernel's sign: negative while discharging.", 1, 6},
-    {FuelGaugeProperty::StateOfCharge, "charge_ratio", "gauge", "Remaining charge, 0 to 1.", 1, 2},
-    {FuelGaugeProperty::Temperature, "temperature_celsius", "gauge", "Battery temperature.", 1, 1},
-    {FuelGaugeProperty::NominalAvailableCapacity, "charge_available_coulombs", "gauge",
-     "Charge now available, not compensated for load and temperature.", 36, 4},
-    {FuelGaugeProperty::FullChargeCapacity, "charge_full_coulombs", "gauge",
-     "Charge when full, compensated for load and temperature.", 36, 4},
-    {FuelGaugeProperty::CycleCount, "cycles_total", "counter", "Charge cycles so far.", 1, 0},
-    {FuelGaugeProperty::PowerAverage, "power_average_watts", "gauge", "Average power.", 1, 6},
-    {FuelGaugeProperty::TimeToEmpty, "time_to_empty_seconds", "gauge",
-     "Time until empty; none unless discharging.", 1, 0},
+constexpr std::array NumberMetrics = {
+    NumberMetric{FuelGaugeProperty::Present, "present", "gauge", "Whether a battery is present.", 1,
+                 0},
+    NumberMetric{FuelGaugeProperty::VoltageNow, "voltage_volts", "gauge", "Battery voltage.", 1, 6},
+    NumberMetric{FuelGaugeProperty::CurrentNow, "current_amperes", "gauge",
+                 "Battery current with the kernel's sign: negative while discharging.", 1, 6},
+    NumberMetric{FuelGaugeProperty::StateOfCharge, "charge_ratio", "gauge",
+                 "Remaining charge, 0 to 1.", 1, 2},
+    NumberMetric{FuelGaugeProperty::Temperature, "temperature_celsius", "gauge",
+                 "Battery temperature.", 1, 1},
+    NumberMetric{FuelGaugeProperty::NominalAvailableCapacity, "charge_available_coulombs", "gauge",
+                 "Charge now available, not compensated for load and temperature.", 36, 4},
+    NumberMetric{FuelGaugeProperty::FullChargeCapacity, "charge_full_coulombs", "gauge",
+                 "Charge when full, compensated for load and temperature.", 36, 4},
+    NumberMetric{FuelGaugeProperty::CycleCount, "cycles_total", "counter", "Charge cycles so far.",
+                 1, 0},
+    NumberMetric{FuelGaugeProperty::PowerAverage, "power_average_watts", "gauge", "Average power.",
+                 1, 6},
+    NumberMetric{FuelGaugeProperty::TimeToEmpty, "time_to_empty_seconds", "gauge",
+                 "Time until empty; none unless discharging.", 1, 0},
 };
 
 struct StateMetric {
@@ -57,26 +63,27 @@ struct StateMetric {
 };
 
 // The kernel's words; another one that is read gets a series too.
-const StateMetric StateMetrics[] = {
-    {FuelGaugeProperty::Status,
-     "status",
-     "Charging status: 1 for the state that is.",
-     {"Unknown", "Charging", "Discharging", "Not charging", "Full"}},
-    {FuelGaugeProperty::ChargeLevel,
-     "charge_level",
-     "Charge level: 1 for the level that is.",
-     {"Unknown", "Critical", "Low", "Normal", "High", "Full"}},
-    {FuelGaugeProperty::Health,
-     "health",
-     "Battery health: 1 for the state that is.",
-     {"Unknown", "Good", "Overheat", "Dead", "Over voltage", "Cold", "Calibration required"}},
+const std::array StateMetrics = {
+    StateMetric{FuelGaugeProperty::Status,
+                "status",
+                "Charging status: 1 for the state that is.",
+                {"Unknown", "Charging", "Discharging", "Not charging", "Full"}},
+    StateMetric{FuelGaugeProperty::ChargeLevel,
+                "charge_level",
+                "Charge level: 1 for the level that is.",
+                {"Unknown", "Critical", "Low", "Normal", "High", "Full"}},
+    StateMetric{
+        FuelGaugeProperty::Health,
+        "health",
+        "Battery health: 1 for the state that is.",
+        {"Unknown", "Good", "Overheat", "Dead", "Over voltage", "Cold", "Calibration required"}},
 };
 
 void AddNumbers(MetricsText& text, const std::vector<Reading>& readings) {
   for (const NumberMetric& metric : NumberMetrics) {
     if (const auto number = Number(Of(readings, metric.property))) {
       text.Family(metric.name, metric.type, metric.help);
-      text.Sample(*number * metric.factor, metric.decimals);
+      text.Sample(std::int64_t{*number} * metric.factor, metric.decimals);
     }
   }
 }

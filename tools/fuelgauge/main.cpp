@@ -182,7 +182,7 @@ ExitStatus RunAndReport(int argc, char** argv) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  std::signal(SIGPIPE, SIG_IGN);
+  static_cast<void>(std::signal(SIGPIPE, SIG_IGN));
   ExitStatus status = RunAndReport(argc, argv);
   if (!std::cout.flush() && !ReaderIsGone()) {
     Complain("the output could not be written");

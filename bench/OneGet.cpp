@@ -21,7 +21,7 @@ unsigned mallocs = 0;
 }  // namespace
 
 // glibc calls these of the program's for its own needs too, such as a stream of fopen.
-extern "C" void* __libc_malloc(std::size_t size);  // NOLINT: the name is glibc's
+extern "C" void* __libc_malloc(std::size_t size);
 extern "C" void* malloc(std::size_t size) {
   ++mallocs;
   return __libc_malloc(size);

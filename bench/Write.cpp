@@ -13,6 +13,7 @@ using namespace dral;
 
 namespace {
 
+// These two do not ask whether the file is there, and so may take less than the floor.
 bool WriteByStream(const std::string& path, const LifetimeData& record) {
   std::ofstream file(path, std::ios::binary);
   file << record;

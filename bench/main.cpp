@@ -19,5 +19,5 @@ int main(int argc, char** argv) {
   AddCreate();
   AddSysfs();
   benchmark::RunSpecifiedBenchmarks();
-  benchmark::Shutdown();  // destroys the benchmarks, which hold gauges over the folder
+  benchmark::Shutdown();
 }

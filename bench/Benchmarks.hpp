@@ -4,7 +4,6 @@
 #include <benchmark/benchmark.h>
 
 #include <FuelGaugeIF.hpp>
-#include <functional>
 #include <string>
 
 /// Each adds benchmarks under names of three parts, PLACE/WHO/WHAT, such as `tmpfs/Get/int`: those that

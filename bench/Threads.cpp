@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <Bq27542FuelGauge.hpp>
+#include <functional>
 #include <memory>
 #include <string>
 

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-only
+/* The kernel's style: clang-format knows another. */
+/* clang-format off */
 /*
  * A BQ27542 fuel gauge without the chip: an I2C bus of its own answers as one,
  * so that the kernel's driver bq27xxx_battery serves it as

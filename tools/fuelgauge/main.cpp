@@ -39,6 +39,11 @@ struct Options {
   WatchOptions watch;
 };
 
+// An empty name, as from a script's unset variable, must not mean the real gauge, or no file.
+std::string NotEmpty(const std::string& name) {
+  return name.empty() ? "the name is empty" : "";
+}
+
 // CLI11's own range check takes "nan" and words it less clearly.
 std::string Seconds(const std::string& text) {
   double seconds = 0;
@@ -73,13 +78,11 @@ ExitStatus Run(int argc, char** argv) {
   app.add_option("--device", options.device,
                  "Folder of the gauge, instead of /sys/class/power_supply/bq27542-0")
       ->type_name("DIR")
-      // An empty one, as from a script's unset variable, must not mean the real gauge.
-      ->check([](const std::string& device) {
-        return std::string(device.empty() ? "the folder's name is empty" : "");
-      });
+      ->check(NotEmpty);
   app.add_option("--lifetime-file", options.lifetimeFile,
                  "Fields that replace those of the lifetime record's reset value")
-      ->type_name("FILE");
+      ->type_name("FILE")
+      ->check(NotEmpty);
   app.add_flag("-v,--verbose", options.verbose, "Show the library's log on standard error");
 
   CLI::App* const list = app.add_subcommand("list", "Show every property");

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "Gauge.hpp"
 
+#include <sys/stat.h>
+
 #include <Bq27542FuelGauge.hpp>
 #include <LifetimeDataParser.hpp>
-#include <filesystem>
 #include <fstream>
 #include <set>
 #include <stdexcept>
@@ -24,7 +25,9 @@ void CheckLifetimeFile(const std::string& path) {
   const auto refuse = [&path](const std::string& reason) {
     throw UsageError("lifetime file '" + path + "': " + reason);
   };
-  if (!std::filesystem::is_regular_file(path)) {
+  // Not by std::filesystem: on a 32-bit machine it cannot see a file dated after the year 2037.
+  struct stat status {};
+  if (::stat(path.c_str(), &status) != 0 || !S_ISREG(status.st_mode)) {
     refuse("no such regular file");
   }
   std::ifstream file(path);

@@ -4,6 +4,13 @@
 #include <array>
 #include <ctime>
 
+std::chrono::system_clock::time_point Now() {
+  std::timespec time{};
+  static_cast<void>(std::timespec_get(&time, TIME_UTC));  // it knows this base
+  return std::chrono::system_clock::time_point(std::chrono::seconds(time.tv_sec) +
+                                               std::chrono::nanoseconds(time.tv_nsec));
+}
+
 std::string Timestamp(std::chrono::system_clock::time_point time) {
   using std::chrono::milliseconds;
   const auto sinceEpoch = std::chrono::floor<milliseconds>(time.time_since_epoch());
@@ -12,7 +19,7 @@ std::string Timestamp(std::chrono::system_clock::time_point time) {
   std::tm parts{};
   ::gmtime_r(&whole, &parts);
   std::array<char, sizeof "2026-11-25T09:30:00"> text{};
-  std::strftime(text.data(), text.size(), "%Y-%m-%dT%H:%M:%S", &parts);
+  const std::size_t length = std::strftime(text.data(), text.size(), "%Y-%m-%dT%H:%M:%S", &parts);
   const std::string fraction = std::to_string(1000 + (sinceEpoch - second).count());
-  return std::string(text.data()).append(".").append(fraction, 1).append("Z");
+  return std::string(text.data(), length).append(".").append(fraction, 1).append("Z");
 }

@@ -110,7 +110,7 @@ ExitStatus Watch(dral::FuelGaugeIF& gauge, const WatchOptions& options) {
       std::chrono::duration<double>(options.intervalSeconds));
   auto next = steady_clock::now();
   for (std::uint64_t taken = 1;; ++taken) {
-    const std::string time = Timestamp(std::chrono::system_clock::now());
+    const std::string time = Timestamp(Now());
     const std::vector<Reading> readings = ReadAll(gauge);
     if (screen) {
       screen->Draw(time, readings);

@@ -3,8 +3,17 @@
 
 #include <gtest/gtest.h>
 
+#include <ctime>
+
 #include "Screen.hpp"
 #include "Timestamp.hpp"
+
+// Stands before the C library's: the system's time is in the year 2040.
+extern "C" int timespec_get(timespec* time, int base) noexcept {
+  time->tv_sec = 2208988800;
+  time->tv_nsec = 125000000;
+  return base;
+}
 
 namespace {
 
@@ -30,6 +39,7 @@ TEST(Timestamp, IsInUtcToTheMillisecond) {
   const std::chrono::system_clock::time_point epoch;
   EXPECT_EQ(Timestamp(epoch + std::chrono::milliseconds(1005)), "1970-01-01T00:00:01.005Z");
   EXPECT_EQ(Timestamp(epoch + std::chrono::seconds(4102444800)), "2100-01-01T00:00:00.000Z");
+  EXPECT_EQ(Timestamp(Now()), "2040-01-01T00:00:00.125Z");
 }
 
 }  // namespace

@@ -24,6 +24,9 @@ ExitStatus Set(dral::FuelGaugeIF& gauge, const std::string& name,
 
 ExitStatus Reset(dral::FuelGaugeIF& gauge, const std::string& name);
 
+/// Prints what Prometheus reads, or puts it in place as the file @p output, whole.
+ExitStatus Metrics(dral::FuelGaugeIF& gauge, const std::optional<std::string>& output);
+
 struct WatchOptions {
   enum class Format { Plain, Csv, Json };
 

@@ -88,6 +88,10 @@ void PrintFields(const dral::LifetimeData& data) {
   }
 }
 
+std::string ToUtf8(const std::string& text) {
+  return Json::parse(Json(text).dump(-1, ' ', false, Json::error_handler_t::replace));
+}
+
 std::string Printable(std::string_view text) {
   constexpr std::size_t Most = 60;
   std::string printable(text.substr(0, Most));

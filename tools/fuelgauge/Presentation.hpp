@@ -40,5 +40,8 @@ void PrintFields(const dral::LifetimeData& data);
 /// @return @p text fit for a message: cut when it is long, and without control characters
 std::string Printable(std::string_view text);
 
+/// @return @p text with every byte that is not UTF-8 replaced
+std::string ToUtf8(const std::string& text);
+
 /// Prints "fuelgauge: @p text" to standard error.
 void Complain(std::string_view text);

@@ -17,6 +17,18 @@ std::vector<Reading> ReadAll(dral::FuelGaugeIF& gauge) {
   return readings;
 }
 
+std::vector<Reading> ReadAllWithCauses(dral::FuelGaugeIF& gauge) {
+  std::vector<Reading> readings = ReadAll(gauge);
+  for (Reading& reading : readings) {
+    if (reading.status == dral::FuelGaugeStatus::Failure) {
+      const auto status = gauge.Get<std::string>(reading.property->id).first;
+      // A text that is there and is no number, or has come back since, stays a failure.
+      reading.status = status == dral::FuelGaugeStatus::Success ? reading.status : status;
+    }
+  }
+  return readings;
+}
+
 const Reading& Of(const std::vector<Reading>& readings, dral::FuelGaugeProperty id) {
   return *std::find_if(readings.begin(), readings.end(),
                        [id](const Reading& reading) { return reading.property->id == id; });

@@ -20,6 +20,10 @@ struct Reading {
 /// Reads the sixteen properties that have a file, in the order of their numbers.
 std::vector<Reading> ReadAll(dral::FuelGaugeIF& gauge);
 
+/// The same, but a number that failed, for which there is the status Failure alone, is asked once
+/// more as text: the reading then has that status, and tells a missing file from one without data.
+std::vector<Reading> ReadAllWithCauses(dral::FuelGaugeIF& gauge);
+
 /// @return the reading of @p id
 const Reading& Of(const std::vector<Reading>& readings, dral::FuelGaugeProperty id);
 

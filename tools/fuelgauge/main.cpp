@@ -35,6 +35,7 @@ struct Options {
   std::string type;
   std::vector<std::string> values;
   bool csv = false;
+  std::optional<std::string> output;
   WatchOptions watch;
 };
 
@@ -113,6 +114,10 @@ ExitStatus Run(int argc, char** argv) {
       watch->add_flag("--csv", options.csv, "A header, then a line of raw numbers a sample");
   watch->add_flag("--json", options.json, "A line of JSON a sample")->excludes(csv);
 
+  CLI::App* const metrics = app.add_subcommand("metrics", "Print what Prometheus reads");
+  metrics->add_option("--output", options.output, "Put the text in place as this file, whole")
+      ->type_name("FILE");
+
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& error) {
@@ -144,6 +149,9 @@ ExitStatus Run(int argc, char** argv) {
   }
   if (set->parsed()) {
     return Set(*gauge, options.property, options.values);
+  }
+  if (metrics->parsed()) {
+    return Metrics(*gauge, options.output);
   }
   if (watch->parsed()) {
     using Format = WatchOptions::Format;

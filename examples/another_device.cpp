@@ -6,7 +6,7 @@
 using namespace dral;
 
 int main() {
-  const auto directory = "/sys/class/power_supply/bq27542-1";
+  const auto* const directory = "/sys/class/power_supply/bq27542-1";
   Bq27542FuelGauge gauge("", Bq27542FuelGauge::PropertyMapAt(directory));
   const auto [status, percent] = gauge.Get<unsigned int>(FuelGaugeProperty::StateOfCharge);
   if (status != FuelGaugeStatus::Success) {

@@ -27,6 +27,9 @@ ExitStatus Reset(dral::FuelGaugeIF& gauge, const std::string& name);
 /// Prints what Prometheus reads, or puts it in place as the file @p output, whole.
 ExitStatus Metrics(dral::FuelGaugeIF& gauge, const std::optional<std::string>& output);
 
+/// Holds what the gauge says against the rules (see `Rule`).
+ExitStatus Check(dral::FuelGaugeIF& gauge, bool json);
+
 struct WatchOptions {
   enum class Format { Plain, Csv, Json };
 

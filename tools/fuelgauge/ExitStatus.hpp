@@ -3,9 +3,10 @@
 
 #include <FuelGaugeStatus.hpp>
 
-/// How the command ends. The first four are the gauge's own answer.
+/// How the command ends. Those of FuelGaugeStatus are the gauge's own answer.
 enum class ExitStatus : int {
   Success = 0,
+  Findings = 1,  ///< `check` found something
   Failure = 2,
   FileError = 3,
   NoData = 4,

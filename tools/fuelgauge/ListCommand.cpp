@@ -36,7 +36,7 @@ ExitStatus List(dral::FuelGaugeIF& gauge, bool json) {
     }
   }
   if (!AnySucceeded(readings)) {
-    Complain("no property could be read: is there a gauge, and is its driver loaded?");
+    Complain(NoGauge);
     return ToExitStatus(readings.front().status);
   }
   return ExitStatus::Success;

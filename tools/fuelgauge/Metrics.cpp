@@ -30,7 +30,7 @@ constexpr NumberMetric NumberMetrics[] = {
      "Battery current with the kernel's sign: negative while discharging.", 1, 6},
     {FuelGaugeProperty::StateOfCharge, "charge_ratio", "gauge", "Remaining charge, 0 to 1.", 1, 2},
     {FuelGaugeProperty::Temperature, "temperature_celsius", "gauge", "Battery temperature.", 1, 1},
-    {FuelGaugeProperty::NominalAvailableCapacity, "charge_now_coulombs", "gauge",
+    {FuelGaugeProperty::NominalAvailableCapacity, "charge_available_coulombs", "gauge",
      "Charge now available, not compensated for load and temperature.", 36, 4},
     {FuelGaugeProperty::FullChargeCapacity, "charge_full_coulombs", "gauge",
      "Charge when full, compensated for load and temperature.", 36, 4},

@@ -43,5 +43,8 @@ std::string Printable(std::string_view text);
 /// @return @p text with every byte that is not UTF-8 replaced
 std::string ToUtf8(const std::string& text);
 
+/// What to say when not one property could be read.
+constexpr auto NoGauge = "no property could be read: is there a gauge, and is its driver loaded?";
+
 /// Prints "fuelgauge: @p text" to standard error.
 void Complain(std::string_view text);

@@ -118,6 +118,9 @@ ExitStatus Run(int argc, char** argv) {
   metrics->add_option("--output", options.output, "Put the text in place as this file, whole")
       ->type_name("FILE");
 
+  CLI::App* const check = app.add_subcommand("check", "Tell whether the gauge makes sense");
+  check->add_flag("--json", options.json, "Answer in JSON");
+
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& error) {
@@ -153,6 +156,9 @@ ExitStatus Run(int argc, char** argv) {
   if (metrics->parsed()) {
     return Metrics(*gauge, options.output);
   }
+  if (check->parsed()) {
+    return Check(*gauge, options.json);
+  }
   if (watch->parsed()) {
     using Format = WatchOptions::Format;
     options.watch.format = options.csv ? Format::Csv : options.json ? Format::Json : Format::Plain;
@@ -176,7 +182,7 @@ ExitStatus RunAndReport(int argc, char** argv) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  std::signal(SIGPIPE, SIG_IGN);
+  static_cast<void>(std::signal(SIGPIPE, SIG_IGN));
   ExitStatus status = RunAndReport(argc, argv);
   if (!std::cout.flush() && !ReaderIsGone()) {
     Complain("the output could not be written");

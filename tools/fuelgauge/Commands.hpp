@@ -24,8 +24,8 @@ ExitStatus Set(dral::FuelGaugeIF& gauge, const std::string& name,
 
 ExitStatus Reset(dral::FuelGaugeIF& gauge, const std::string& name);
 
-/// @param output the file to put in place; empty: standard output
-ExitStatus Metrics(dral::FuelGaugeIF& gauge, const std::string& output);
+/// Prints what Prometheus reads, or puts it in place as the file @p output, whole.
+ExitStatus Metrics(dral::FuelGaugeIF& gauge, const std::optional<std::string>& output);
 
 /// Holds what the gauge says against the rules (see `Rule`).
 ExitStatus Check(dral::FuelGaugeIF& gauge, bool json);

@@ -47,9 +47,10 @@ void MetricsText::Family(std::string_view name, std::string_view type, std::stri
 
 void MetricsText::Sample(std::int64_t number, int decimals, const Labels& labels) {
   text.append(family);
+  char before = '{';
   for (const auto& [name, value] : labels) {
-    text.append(&name == &labels.front().first ? "{" : ",");
-    text.append(name).append("=").append(Quoted(value));
+    text.append(1, before).append(name).append("=").append(Quoted(value));
+    before = ',';
   }
   text.append(labels.empty() ? " " : "} ").append(Decimal(number, decimals)).append("\n");
 }

@@ -6,27 +6,24 @@
 
 #include "Units.hpp"
 
-namespace {
-
-using dral::FuelGaugeStatus;
-
-FuelGaugeStatus Cause(dral::FuelGaugeIF& gauge, dral::FuelGaugeProperty id,
-                      FuelGaugeStatus status) {
-  if (status != FuelGaugeStatus::Failure) {
-    return status;
-  }
-  const FuelGaugeStatus asText = gauge.Get<std::string>(id).first;
-  return asText == FuelGaugeStatus::Success ? status : asText;
-}
-
-}  // namespace
-
 std::vector<Reading> ReadAll(dral::FuelGaugeIF& gauge) {
   std::vector<Reading> readings;
   for (const Property& property : Properties) {
     if (property.id != dral::FuelGaugeProperty::LifetimeDataResetValue) {  // it has no file
       auto [status, value] = gauge.Get(property.id, property.natural);
-      readings.push_back({&property, status, std::move(value), Cause(gauge, property.id, status)});
+      readings.push_back({&property, status, std::move(value)});
+    }
+  }
+  return readings;
+}
+
+std::vector<Reading> ReadAllWithCauses(dral::FuelGaugeIF& gauge) {
+  std::vector<Reading> readings = ReadAll(gauge);
+  for (Reading& reading : readings) {
+    if (reading.status == dral::FuelGaugeStatus::Failure) {
+      const auto status = gauge.Get<std::string>(reading.property->id).first;
+      // A text that is there and is no number, or has come back since, stays a failure.
+      reading.status = status == dral::FuelGaugeStatus::Success ? reading.status : status;
     }
   }
   return readings;

@@ -13,14 +13,16 @@ struct Reading {
   const Property* property;
   dral::FuelGaugeStatus status;
   dral::PropertyValue value;
-  /// The status, or for a number, whose failure has but one: that of a second read, as text.
-  dral::FuelGaugeStatus cause;
 
   bool Succeeded() const { return status == dral::FuelGaugeStatus::Success; }
 };
 
 /// Reads the sixteen properties that have a file, in the order of their numbers.
 std::vector<Reading> ReadAll(dral::FuelGaugeIF& gauge);
+
+/// The same, but a number that failed, for which there is the status Failure alone, is asked once
+/// more as text: the reading then has that status, and tells a missing file from one without data.
+std::vector<Reading> ReadAllWithCauses(dral::FuelGaugeIF& gauge);
 
 /// @return the reading of @p id
 const Reading& Of(const std::vector<Reading>& readings, dral::FuelGaugeProperty id);

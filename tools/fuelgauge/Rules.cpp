@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <sstream>
 
 using enum dral::FuelGaugeProperty;
 using Readings = std::vector<Reading>;
@@ -11,47 +10,52 @@ using Readings = std::vector<Reading>;
 namespace {
 
 // The number, or one that breaks no rule when it was not read.
-int Of(const Readings& readings, dral::FuelGaugeProperty id, int otherwise) {
-  return Number(::Of(readings, id)).value_or(otherwise);
+int NumberOr(const Readings& readings, dral::FuelGaugeProperty id, int otherwise) {
+  return Number(Of(readings, id)).value_or(otherwise);
 }
 
 bool Says(const Readings& readings, dral::FuelGaugeProperty id, std::string_view word) {
-  return Text(::Of(readings, id)) == word;
+  return Text(Of(readings, id)) == word;
 }
 
 const dral::LifetimeData* Record(const Readings& readings) {
-  const Reading& reading = ::Of(readings, LifetimeData);
+  const Reading& reading = Of(readings, LifetimeData);
   return reading.Succeeded() ? std::get_if<dral::LifetimeData>(&reading.value) : nullptr;
 }
 
 bool AllOnes(const Readings& readings) {
-  return Of(readings, StateOfCharge, 0) == 65535 || Of(readings, CycleCount, 0) == 65535 ||
-         Of(readings, VoltageNow, 0) == 65535000;
+  return NumberOr(readings, StateOfCharge, 0) == 65535 ||
+         NumberOr(readings, CycleCount, 0) == 65535 ||
+         NumberOr(readings, VoltageNow, 0) == 65535000;
 }
 
 // A temperature register of 0 kelvin shows as -2731.
 bool AllZero(const Readings& readings) {
-  return Of(readings, Temperature, 0) == -2731 || Of(readings, VoltageNow, 1) == 0;
+  return NumberOr(readings, Temperature, 0) == -2731 || NumberOr(readings, VoltageNow, 1) == 0;
 }
 
+// Some milliamperes are what an idle gauge measures.
 bool WrongSign(const Readings& readings) {
-  const int current = Of(readings, CurrentNow, 0);
-  return (current < 0 && Says(readings, Status, "Charging")) ||
-         (current > 0 && Says(readings, Status, "Discharging"));
+  const int current = NumberOr(readings, CurrentNow, 0);
+  return (current < -10000 && Says(readings, Status, "Charging")) ||
+         (current > 10000 && Says(readings, Status, "Discharging"));
 }
 
 // The two differ by up to a dozen points on healthy gauges: only one charge is compensated for load.
 bool ChargesDisagree(const Readings& readings) {
-  const double full = Of(readings, FullChargeCapacity, 0);
-  const double now = Of(readings, NominalAvailableCapacity, -1);
-  const int percent = Of(readings, StateOfCharge, -1);
+  const double full = NumberOr(readings, FullChargeCapacity, 0);
+  const double now = NumberOr(readings, NominalAvailableCapacity, -1);
+  const int percent = NumberOr(readings, StateOfCharge, -1);
   return full > 0 && now >= 0 && percent >= 0 && std::abs(100 * now / full - percent) > 25;
 }
 
-// Below a tenth of a watt the register counts too coarsely to judge.
-bool PowerTooLarge(const Readings& readings) {
-  const double watts = 1e-12 * Of(readings, VoltageNow, 0) * Of(readings, CurrentNow, 0);
-  return std::abs(watts) > 0.1 && std::abs(1e-6 * Of(readings, PowerAverage, 0) / watts) > 5;
+// By magnitude: older chips give the power another sign than the current. Below a tenth of a watt the
+// register, which may count in 10 mW, is too coarse to judge; and a mean lags behind what is now.
+bool PowerFarOff(const Readings& readings) {
+  const double now =
+      std::abs(1e-12 * NumberOr(readings, VoltageNow, 0) * NumberOr(readings, CurrentNow, 0));
+  const double mean = std::abs(1e-6 * NumberOr(readings, PowerAverage, 0));
+  return now >= 0.1 && mean >= 0.1 && (mean > 5 * now || now > 5 * mean);
 }
 
 bool RecordCrossed(const Readings& readings) {
@@ -70,21 +74,24 @@ bool RecordInvalid(const Readings& readings) {
   return repaired.ToString() != record->ToString();
 }
 
-// A file that is there and cannot be read. One that is not there is a driver that does not offer it.
 bool Unreadable(const Readings& readings) {
   return std::any_of(readings.begin(), readings.end(), [&](const Reading& reading) {
-    const bool expected =
-        reading.property->id == TimeToEmpty && !Says(readings, Status, "Discharging");
-    return !reading.Succeeded() && reading.cause != dral::FuelGaugeStatus::FileError && !expected;
+    return !reading.Succeeded() && !UnreadIsNormal(reading, readings);
   });
 }
 
-bool HealthNotGood(const Readings& readings) {
-  const auto health = Text(::Of(readings, Health));
-  return health && *health != "Good" && *health != "Unknown";
+bool BatteryUnwell(const Readings& readings) {
+  const auto health = Text(Of(readings, Health));
+  return health && *health != "Good" && *health != "Unknown" && *health != "Calibration required";
 }
 
 }  // namespace
+
+bool UnreadIsNormal(const Reading& reading, const Readings& readings) {
+  const auto status = Text(Of(readings, Status));
+  return reading.status == dral::FuelGaugeStatus::FileError ||
+         (reading.property->id == TimeToEmpty && status && *status != "Discharging");
+}
 
 const std::vector<Rule> Rules = {
     {"all-ones",
@@ -101,27 +108,27 @@ const std::vector<Rule> Rules = {
      "error",
      "the kernel sees no battery, or its bus is dead",
      {Present},
-     [](const Readings& readings) { return Of(readings, Present, 1) == 0; }},
+     [](const Readings& readings) { return NumberOr(readings, Present, 1) == 0; }},
     {"charge-range",
      "error",
      "a charge is from 0 to 100 %: a register was misread",
      {StateOfCharge},
      [](const Readings& readings) {
-       const int percent = Of(readings, StateOfCharge, 0);
+       const int percent = NumberOr(readings, StateOfCharge, 0);
        return percent < 0 || percent > 100;
      }},
     {"below-absolute-zero",
      "error",
      "no temperature is below -273.1 °C",
      {Temperature},
-     [](const Readings& readings) { return Of(readings, Temperature, 0) < -2731; }},
+     [](const Readings& readings) { return NumberOr(readings, Temperature, 0) < -2731; }},
     {"temperature-range",
      "error",
      "the gauge measures from -60 to 140 °C: its sensor is broken",
      {Temperature},
      [](const Readings& readings) {
-       const int tenths = Of(readings, Temperature, 0);
-       return tenths < dral::LifetimeData::LifetimeMinTemp ||
+       const int tenths = NumberOr(readings, Temperature, 0);
+       return (tenths < dral::LifetimeData::LifetimeMinTemp && tenths > -2731) ||
               tenths > dral::LifetimeData::LifetimeMaxTemp;
      }},
     {"current-sign",
@@ -136,10 +143,11 @@ const std::vector<Rule> Rules = {
      ChargesDisagree},
     {"power-scale",
      "warning",
-     "the power is far above voltage times current: the driver counts 10 mW where the chip counts "
-     "1",
+     "the mean power is far from voltage times current: a load that changes, or a driver that "
+     "counts "
+     "10 mW where the chip counts 1",
      {PowerAverage, VoltageNow, CurrentNow},
-     PowerTooLarge},
+     PowerFarOff},
     {"record-crossed",
      "warning",
      "a minimum of the lifetime record is above its maximum",
@@ -150,14 +158,15 @@ const std::vector<Rule> Rules = {
      "the lifetime record holds values beyond its limits",
      {LifetimeData},
      RecordInvalid},
-    {"unreadable",
-     "error",
-     "values that should be there cannot be read; 'list' tells which",
-     {},
-     Unreadable},
+    {"unreadable", "error", "a value that should be there cannot be read", {}, Unreadable},
     {"health",
-     "notice",
+     "warning",
      "the gauge reports that the battery is not well (Dead is also raised by low charge)",
      {Health},
-     HealthNotGood},
+     BatteryUnwell},
+    {"calibration",
+     "notice",
+     "the gauge wants a learning cycle, a full discharge and charge; until then it guesses",
+     {Health},
+     [](const Readings& readings) { return Says(readings, Health, "Calibration required"); }},
 };

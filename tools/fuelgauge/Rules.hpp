@@ -16,5 +16,9 @@ struct Rule {
   bool (*broken)(const std::vector<Reading>& readings);
 };
 
+/// @return whether a gauge in order may fail to give this: a file that its driver does not offer, or
+///         the time to empty while it says that it is not discharging
+bool UnreadIsNormal(const Reading& reading, const std::vector<Reading>& readings);
+
 /// All of them. To add one is to add a line.
 extern const std::vector<Rule> Rules;

@@ -35,7 +35,7 @@ struct Options {
   std::string type;
   std::vector<std::string> values;
   bool csv = false;
-  std::string output;
+  std::optional<std::string> output;
   WatchOptions watch;
 };
 

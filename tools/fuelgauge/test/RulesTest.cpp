@@ -3,10 +3,8 @@
 
 #include <gtest/gtest.h>
 
-#include <map>
+#include <algorithm>
 #include <sstream>
-
-#include "MetricsText.hpp"
 
 using enum dral::FuelGaugeProperty;
 
@@ -29,7 +27,7 @@ constexpr auto Attributes = {Status,
 std::vector<Reading> Readings(const std::string& line, const dral::LifetimeData& record) {
   std::vector<Reading> readings;
   for (const Property& property : Properties) {
-    readings.push_back({&property, dral::FuelGaugeStatus::Success, property.natural, {}});
+    readings.push_back({&property, dral::FuelGaugeStatus::Success, property.natural});
   }
   readings[static_cast<std::size_t>(Present)].value = true;
   readings[static_cast<std::size_t>(LifetimeData)].value = record;
@@ -39,8 +37,7 @@ std::vector<Reading> Readings(const std::string& line, const dral::LifetimeData&
     std::string word;
     words >> word;
     if (word == "-" || word == "!") {
-      reading.status = dral::FuelGaugeStatus::Failure;
-      reading.cause =
+      reading.status =
           word == "-" ? dral::FuelGaugeStatus::FileError : dral::FuelGaugeStatus::NoData;
     } else if (std::holds_alternative<int>(reading.value)) {
       reading.value = std::stoi(word);
@@ -68,10 +65,10 @@ TEST(Rules, FindWhatIsWrongAndNothingElse) {
       {"bq27200, discharging",
        "Discharging 3536000 -432327 18 Normal 316 366680 2050560 0 1146100 Calibration_required "
        "4140",
-       "health "},
+       "calibration "},
       {"bq27200, worn",
        "Discharging 3633000 -397341 - Normal 299 - 2050560 0 1432260 Calibration_required -",
-       "health "},
+       "calibration "},
       {"bq78z100, discharging",
        "Discharging 3386000 -5000 27 Normal 269 1736000 6494000 1 -20000 Good 1249920", ""},
       {"bq78z100, idle", "Not_charging 3386000 0 27 Normal 270 1734000 6494000 1 0 Good !", ""},
@@ -81,9 +78,13 @@ TEST(Rules, FindWhatIsWrongAndNothingElse) {
        "charge-range charges-disagree "},
       {"all ones", "Unknown 65535000 0 65535 Full 251 - - 65535 0 Good !",
        "all-ones charge-range "},
-      {"all zero", "Unknown 0 0 0 Critical -2731 0 0 0 0 Good !", "all-zero temperature-range "},
+      {"all zero", "Unknown 0 0 0 Critical -2731 0 0 0 0 Good !", "all-zero "},
       {"colder than cold", "Unknown 3700000 0 50 Normal -2732 - - 0 0 Good !",
-       "below-absolute-zero temperature-range "},
+       "below-absolute-zero "},
+      {"colder than the gauge measures", "Unknown 3700000 0 50 Normal -601 - - 0 0 Good !",
+       "temperature-range "},
+      {"hotter", "Unknown 3700000 0 50 Normal 1401 - - 0 0 Good !", "temperature-range "},
+      {"too hot, by its own word", "Full 4100000 0 99 Full 651 - - 0 0 Overheat !", "health "},
       {"at the limits", "Unknown 3700000 0 100 Normal 1400 - - 0 0 Good !", ""},
       {"the sign turned", "Discharging 3786000 412000 74 Normal 251 - - 96 1560000 Good 4140",
        "current-sign "},
@@ -93,6 +94,13 @@ TEST(Rules, FindWhatIsWrongAndNothingElse) {
        "charges-disagree "},
       {"ten times the power",
        "Discharging 3786000 -412000 74 Normal 251 - - 96 -15600000 Good 4140", "power-scale "},
+      {"a tenth of the power", "Charging 3786000 5000000 74 Normal 251 - - 96 1560000 Good !",
+       "power-scale "},
+      {"the power's sign is its own",
+       "Charging 3786000 412000 74 Normal 251 - - 96 -1560000 Good !", ""},
+      {"too little power to judge", "Discharging 3786000 -5000 74 Normal 251 - - 96 -99000 Good 9",
+       ""},
+      {"an idle gauge's noise", "Discharging 3786000 10000 74 Normal 251 - - 96 0 Good 9", ""},
       {"a record crossed", good + "1", "record-crossed ", {100, 200, 4000, 3000, 0, 0}},
       {"voltages crossed", good + "1", "record-crossed ", {100, 0, 3000, 3001, 0, 0}},
       {"a record beyond limits", good + "1", "record-invalid ", {1401, 0, 4000, 3000, 0, 0}},
@@ -105,19 +113,6 @@ TEST(Rules, FindWhatIsWrongAndNothingElse) {
     }
     EXPECT_EQ(findings, each.findings) << each.title;
   }
-}
-
-TEST(MetricsText, NumbersAreExactAndStringsEscaped) {
-  MetricsText text;
-  text.Family("x", "gauge", "Help.");
-  text.Sample(3786000, 6);
-  text.Sample(-5, 1);
-  text.Sample(100, 2);
-  text.Sample(-2147483648LL * 36, 4, {{"a", "q\"b\\n\nl\xff"}, {"b", ""}});
-  EXPECT_EQ(
-      text.Text(),
-      "# HELP fuelgauge_x Help.\n# TYPE fuelgauge_x gauge\nfuelgauge_x 3.786\nfuelgauge_x -0.5\n"
-      "fuelgauge_x 1\nfuelgauge_x{a=\"q\\\"b\\\\n\\nl\uFFFD\",b=\"\"} -7730941.1328\n");
 }
 
 }  // namespace

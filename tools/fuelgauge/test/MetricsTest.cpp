@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: MIT
+#include "Metrics.hpp"
+
+#include <gtest/gtest.h>
+
+#include "MetricsText.hpp"
+#include "Readings.hpp"
+
+namespace {
+
+using enum dral::FuelGaugeProperty;
+
+bool Holds(const std::string& text, const std::string& part) {
+  return text.find(part) != std::string::npos;
+}
+
+TEST(MetricsText, NumbersAreExact) {
+  struct Case {
+    std::int64_t number;
+    int decimals;
+    std::string text;
+  };
+  const Case cases[] = {
+      {3786000, 6, "3.786"},
+      {-412000, 6, "-0.412"},
+      {1, 6, "0.000001"},
+      {0, 6, "0"},
+      {-5, 1, "-0.5"},
+      {100, 2, "1"},
+      {65535, 2, "655.35"},
+      {4000000, 6, "4"},
+      {2147483647LL * 36, 4, "7730941.1292"},
+      {-2147483648LL * 36, 4, "-7730941.1328"},
+      {120, 0, "120"},
+  };
+  for (const Case& each : cases) {
+    MetricsText text;
+    text.Family("x_volts", "gauge", "X.");
+    text.Sample(each.number, each.decimals);
+    EXPECT_EQ(text.Text(),
+              "# HELP fuelgauge_x_volts X.\n# TYPE fuelgauge_x_volts gauge\n"
+              "fuelgauge_x_volts " +
+                  each.text + "\n");
+  }
+}
+
+TEST(MetricsText, LabelsAreEscapedAndUtf8) {
+  MetricsText text;
+  text.Family("x", "gauge", "X.");
+  text.Sample(1, 0, {{"a", "q\"b\\n\nµ"}, {"b", "\xff\xc3(\t"}});
+  EXPECT_TRUE(Holds(text.Text(), "\nfuelgauge_x{a=\"q\\\"b\\\\n\\nµ\",b=\"\uFFFD\uFFFD(\t\"} 1\n"))
+      << text.Text();
+}
+
+TEST(Metrics, WhatCouldNotBeReadIsLeftOut) {
+  auto readings = ReadingsOf({{VoltageNow, 3786000}, {Present, true}});
+  readings[5].status = dral::FuelGaugeStatus::NoData;
+  const std::string text = MetricsOf(readings);
+  EXPECT_TRUE(Holds(text, "\nfuelgauge_voltage_volts 3.786\n"));
+  EXPECT_TRUE(Holds(text, "\nfuelgauge_present 1\n"));
+  for (const auto* absent : {"current", "charge", "temperature", "lifetime", "info", "health"}) {
+    EXPECT_FALSE(Holds(text, std::string("fuelgauge_") + absent)) << text;
+  }
+  EXPECT_TRUE(Holds(text, "fuelgauge_read_success{property=\"VoltageNow\"} 1\n"));
+  EXPECT_TRUE(Holds(text, "fuelgauge_read_success{property=\"CurrentNow\"} 0\n"));
+  EXPECT_TRUE(Holds(text, "fuelgauge_read_status{property=\"CurrentNow\"} 4\n"));
+  EXPECT_TRUE(Holds(text, "fuelgauge_read_status{property=\"Health\"} 3\n"));
+}
+
+TEST(Metrics, AStateIsOneOfItsSeriesKnownToUsOrNot) {
+  const std::string text = MetricsOf(ReadingsOf({{Status, "Full"}, {Health, "Blown fuse"}}));
+  EXPECT_TRUE(Holds(text, "fuelgauge_status{state=\"Full\"} 1\n"));
+  EXPECT_TRUE(Holds(text, "fuelgauge_status{state=\"Discharging\"} 0\n"));
+  EXPECT_TRUE(Holds(text, "fuelgauge_health{state=\"Good\"} 0\n"));
+  EXPECT_TRUE(Holds(text, "fuelgauge_health{state=\"Blown fuse\"} 1\n"));
+}
+
+TEST(Metrics, TheRecordIsInBaseUnits) {
+  const std::string text = MetricsOf(ReadingsOf({{LifetimeData, dral::LifetimeData()}}));
+  EXPECT_TRUE(Holds(text, "fuelgauge_lifetime_temperature_celsius{extreme=\"min\"} -20\n"));
+  EXPECT_TRUE(Holds(text, "fuelgauge_lifetime_pack_voltage_volts{extreme=\"max\"} 4.45\n"));
+  EXPECT_TRUE(Holds(text, "fuelgauge_lifetime_current_amperes{extreme=\"max_discharge\"} -1.5\n"));
+}
+
+}  // namespace

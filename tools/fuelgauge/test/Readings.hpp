@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <map>
+#include <vector>
+
+#include "Reading.hpp"
+
+/// @return readings of all properties with a file: these values, and no such file for the others
+inline std::vector<Reading> ReadingsOf(
+    const std::map<dral::FuelGaugeProperty, dral::PropertyValue>& values) {
+  std::vector<Reading> readings;
+  for (const Property& property : Properties) {
+    if (property.id == dral::FuelGaugeProperty::LifetimeDataResetValue) {
+      continue;
+    }
+    const auto found = values.find(property.id);
+    if (found != values.end()) {
+      readings.push_back({&property, dral::FuelGaugeStatus::Success, found->second});
+    } else {
+      readings.push_back({&property, dral::FuelGaugeStatus::FileError, property.natural});
+    }
+  }
+  return readings;
+}

@@ -39,7 +39,8 @@ void PrintLine(const std::string& time, const std::vector<Reading>& readings) {
 void PrintCsvHeader() {
   std::cout << "time";
   for (const Property& property : Properties) {
-    if (property.id < FuelGaugeProperty::LifetimeData) {
+    if (property.id != FuelGaugeProperty::LifetimeData &&
+        property.id != FuelGaugeProperty::LifetimeDataResetValue) {
       std::cout << "," << property.name;
     }
   }

@@ -24,7 +24,8 @@ namespace dral {
 /// The second argument is the path of a lifetime override file (see `LifetimeDataParser`), empty
 /// for none. Creation throws `std::invalid_argument` or `std::out_of_range` when a field's value in
 /// that file is no number or too large, and `std::bad_alloc`. The operations answer with a status
-/// and throw only `std::bad_alloc`, when there is no memory left to pass a value along.
+/// and throw only `std::bad_alloc`, when there is no memory left to pass a value along or to log a
+/// failure.
 ///
 /// Thread-safe: any thread may call any operation at any time, and the file operations of one
 /// object never overlap. Two objects, or two processes, do not exclude each other. Destroy the

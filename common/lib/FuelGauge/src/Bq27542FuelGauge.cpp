@@ -78,7 +78,8 @@ std::pair<FuelGaugeStatus, PropertyValue> Bq27542FuelGauge::DoGet(FuelGaugePrope
   }
   try {
     const std::scoped_lock lock(mutex);
-    return Readable(property, propertyMap).Get(BlankLike(value));
+    return Readable(property, propertyMap)
+        .Get(value.valueless_by_exception() ? value : BlankLike(value));
   } catch (const std::exception& exception) {
     KESP_LOG(LogFailure) << "Failed to get property: " << static_cast<std::uint32_t>(property)
                          << "ex: " << exception.what();

@@ -2,6 +2,8 @@
 #include "Metrics.hpp"
 
 #include <algorithm>
+#include <array>
+#include <cstdint>
 
 #include "MetricsText.hpp"
 
@@ -17,13 +19,13 @@ struct NumberMetric {
   std::string_view name;
   std::string_view type;
   std::string_view help;
-  std::int64_t factor;
+  int factor;
   int decimals;
 };
 
 // Charges are in coulombs: the convention asks for base units, and finds fault with hours in a name.
 // Cycles only grow, until the gauge is replaced: a counter, whose reset Prometheus understands.
-constexpr NumberMetric NumberMetrics[] = {
+constexpr std::array<NumberMetric, 10> NumberMetrics = {{
     {FuelGaugeProperty::Present, "present", "gauge", "Whether a battery is present.", 1, 0},
     {FuelGaugeProperty::VoltageNow, "voltage_volts", "gauge", "Battery voltage.", 1, 6},
     {FuelGaugeProperty::CurrentNow, "current_amperes", "gauge",
@@ -38,7 +40,7 @@ constexpr NumberMetric NumberMetrics[] = {
     {FuelGaugeProperty::PowerAverage, "power_average_watts", "gauge", "Average power.", 1, 6},
     {FuelGaugeProperty::TimeToEmpty, "time_to_empty_seconds", "gauge",
      "Time until empty; none unless discharging.", 1, 0},
-};
+}};
 
 struct StateMetric {
   FuelGaugeProperty property;
@@ -48,7 +50,7 @@ struct StateMetric {
 };
 
 // The kernel's words; another one that is read gets a series too.
-const StateMetric StateMetrics[] = {
+const std::array<StateMetric, 3> StateMetrics = {{
     {FuelGaugeProperty::Status,
      "status",
      "Charging status: 1 for the state that is.",
@@ -61,13 +63,13 @@ const StateMetric StateMetrics[] = {
      "health",
      "Battery health: 1 for the state that is.",
      {"Unknown", "Good", "Overheat", "Dead", "Over voltage", "Cold", "Calibration required"}},
-};
+}};
 
 void AddNumbers(MetricsText& text, const std::vector<Reading>& readings) {
   for (const NumberMetric& metric : NumberMetrics) {
     if (const auto number = Number(Of(readings, metric.property))) {
       text.Family(metric.name, metric.type, metric.help);
-      text.Sample(*number * metric.factor, metric.decimals);
+      text.Sample(std::int64_t{*number} * metric.factor, metric.decimals);
     }
   }
 }

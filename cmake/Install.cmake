@@ -16,6 +16,9 @@ function(install_library target)
     VERSION ${PROJECT_VERSION}
     SOVERSION ${PROJECT_VERSION_MAJOR}
     INSTALL_RPATH $ORIGIN)
+  if(NOT KESP_INSTALL)
+    return()
+  endif()
   install(TARGETS ${target} EXPORT ${target}Targets FILE_SET HEADERS
           DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${target})
   install(EXPORT ${target}Targets NAMESPACE kesp:: DESTINATION ${package_dir})

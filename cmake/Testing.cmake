@@ -1,10 +1,9 @@
 # SPDX-License-Identifier: MIT
-if(BUILD_TESTING)
+if(KESP_TESTS)
+  enable_testing()
   if(CMAKE_CROSSCOMPILING)
     # Debian has GoogleTest built for the host alone, and its sources for all others.
     add_subdirectory(/usr/src/googletest googletest EXCLUDE_FROM_ALL SYSTEM)
-    target_compile_options(gtest PRIVATE -w) # its warnings are not ours to mend
-    target_compile_options(gtest_main PRIVATE -w)
   else()
     find_package(GTest REQUIRED)
   endif()

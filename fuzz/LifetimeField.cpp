@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 // The tool's FIELD=VALUE: an assignment that is taken shows in its field, one that is refused changes
 // nothing.
-#include "LifetimeField.hpp"
+#include "readings/LifetimeField.hpp"
 
 #include "Target.hpp"
-#include "UsageError.hpp"
+#include "readings/UsageError.hpp"
+
+using namespace fuelgauge;
 
 void Target(const std::string& input) {
   dral::LifetimeData data;

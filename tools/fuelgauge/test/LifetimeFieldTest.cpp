@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "LifetimeField.hpp"
+#include "readings/LifetimeField.hpp"
 
 #include <gtest/gtest.h>
 
-#include "UsageError.hpp"
+#include "readings/UsageError.hpp"
 
+namespace fuelgauge {
 namespace {
 
 TEST(LifetimeField, AssignsWholeNumbersOnly) {
@@ -42,3 +43,4 @@ TEST(LifetimeField, AssignsWholeNumbersOnly) {
 }
 
 }  // namespace
+}  // namespace fuelgauge

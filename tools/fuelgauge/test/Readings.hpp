@@ -2,13 +2,15 @@
 #pragma once
 
 #include <map>
+#include <utility>
 #include <vector>
 
-#include "Reading.hpp"
+#include "readings/Readings.hpp"
+
+namespace fuelgauge {
 
 /// @return readings of all properties with a file: these values, and no such file for the others
-inline std::vector<Reading> ReadingsOf(
-    const std::map<dral::FuelGaugeProperty, dral::PropertyValue>& values) {
+inline Readings ReadingsOf(std::map<dral::FuelGaugeProperty, dral::PropertyValue> values) {
   std::vector<Reading> readings;
   for (const Property& property : Properties) {
     if (property.id == dral::FuelGaugeProperty::LifetimeDataResetValue) {
@@ -16,10 +18,12 @@ inline std::vector<Reading> ReadingsOf(
     }
     const auto found = values.find(property.id);
     if (found != values.end()) {
-      readings.push_back({&property, dral::FuelGaugeStatus::Success, found->second});
+      readings.push_back({&property, dral::FuelGaugeStatus::Success, std::move(found->second)});
     } else {
-      readings.push_back({&property, dral::FuelGaugeStatus::FileError, property.natural});
+      readings.push_back({&property, dral::FuelGaugeStatus::FileError, Hint(property.type)});
     }
   }
-  return readings;
+  return Readings(std::move(readings));
 }
+
+}  // namespace fuelgauge

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "Rules.hpp"
+#include "readings/Rules.hpp"
 
 #include <gtest/gtest.h>
 
@@ -8,6 +8,7 @@
 
 using enum dral::FuelGaugeProperty;
 
+namespace fuelgauge {
 namespace {
 
 constexpr auto Attributes = {Status,
@@ -24,10 +25,10 @@ constexpr auto Attributes = {Status,
                              TimeToEmpty};
 
 // A line of values in that order, '_' for a blank in one; '-' was not there, '!' could not be read.
-std::vector<Reading> Readings(const std::string& line, const dral::LifetimeData& record) {
+Readings ReadingsOf(const std::string& line, const dral::LifetimeData& record) {
   std::vector<Reading> readings;
   for (const Property& property : Properties) {
-    readings.push_back({&property, dral::FuelGaugeStatus::Success, property.natural});
+    readings.push_back({&property, dral::FuelGaugeStatus::Success, Hint(property.type)});
   }
   readings[static_cast<std::size_t>(Present)].value = true;
   readings[static_cast<std::size_t>(LifetimeData)].value = record;
@@ -46,7 +47,7 @@ std::vector<Reading> Readings(const std::string& line, const dral::LifetimeData&
       reading.value = word;
     }
   }
-  return readings;
+  return Readings(std::move(readings));
 }
 
 TEST(Rules, FindWhatIsWrongAndNothingElse) {
@@ -110,7 +111,7 @@ TEST(Rules, FindWhatIsWrongAndNothingElse) {
       {"a record beyond limits", good + "1", "record-invalid ", {1401, 0, 4000, 3000, 0, 0}},
   };
   for (const Case& each : cases) {
-    const std::vector<Reading> readings = Readings(each.line, each.record);
+    const Readings readings = ReadingsOf(each.line, each.record);
     std::string findings;
     for (const Rule& rule : Rules) {
       findings += rule.broken(readings) ? std::string(rule.name) + " " : "";
@@ -120,3 +121,4 @@ TEST(Rules, FindWhatIsWrongAndNothingElse) {
 }
 
 }  // namespace
+}  // namespace fuelgauge

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "Units.hpp"
+#include "readings/Units.hpp"
 
 #include <gtest/gtest.h>
 
+namespace fuelgauge {
 namespace {
 
 TEST(Units, NumbersReadAsPeopleSayThem) {
@@ -32,9 +33,5 @@ TEST(Units, NumbersReadAsPeopleSayThem) {
   }
 }
 
-TEST(Units, PaddingCountsCharactersNotBytes) {
-  EXPECT_EQ(PadTo(4, "µV"), "µV  ");
-  EXPECT_EQ(PadTo(1, "°C"), "°C");
-}
-
 }  // namespace
+}  // namespace fuelgauge

@@ -1,9 +1,0 @@
-// SPDX-License-Identifier: MIT
-#pragma once
-
-#include <stdexcept>
-
-/// The user asked for something that cannot be; the text names the wrong word and the way out.
-class UsageError : public std::runtime_error {
-  using std::runtime_error::runtime_error;
-};

@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+#include <memory>
+
+#include "commands/Commands.hpp"
+#include "commands/ReadBack.hpp"
+
+namespace fuelgauge {
+namespace {
+
+ExitStatus Reset(const Gauge& gauge, const std::string& name) {
+  const Property& property = FindProperty(name);
+  if (const auto status = gauge->Reset(property.id); status != dral::FuelGaugeStatus::Success) {
+    return Refused(property, status);
+  }
+  const auto [status, written] =
+      gauge->Get<dral::LifetimeData>(dral::FuelGaugeProperty::LifetimeDataResetValue);
+  return ReadBack(gauge, property, written);
+}
+
+}  // namespace
+
+Action AddReset(CLI::App& parser) {
+  const auto property = std::make_shared<std::string>();
+  parser.add_option("PROPERTY", *property, "LifetimeData")->required();
+  return [property](const GaugeOptions& which) { return Reset(Gauge(which), *property); };
+}
+
+}  // namespace fuelgauge

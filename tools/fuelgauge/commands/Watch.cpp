@@ -1,0 +1,149 @@
+// SPDX-License-Identifier: MIT
+#include <unistd.h>
+
+#include <charconv>
+#include <chrono>
+#include <csignal>
+#include <iostream>
+#include <locale>
+#include <memory>
+#include <sstream>
+
+#include "commands/Commands.hpp"
+#include "output/Csv.hpp"
+#include "output/Json.hpp"
+#include "output/Screen.hpp"
+#include "output/Timestamp.hpp"
+
+using dral::FuelGaugeProperty;
+using std::chrono::steady_clock;
+
+namespace fuelgauge {
+namespace {
+
+struct WatchOptions {
+  double intervalSeconds = 1;
+  std::uint64_t count = 0;  // samples to take; 0: until stopped
+  bool csv = false;
+  bool json = false;
+};
+
+// CLI11's own range check takes "nan" and words it less clearly.
+std::string Seconds(const std::string& text) {
+  std::istringstream stream(text);
+  stream.imbue(std::locale::classic());
+  double seconds = 0;
+  return stream >> std::noskipws >> seconds && stream.peek() == std::istream::traits_type::eof() &&
+                 seconds >= 0.1 && seconds <= 86400
+             ? ""
+             : "'" + text + "' is not a number of seconds from 0.1 to 86400";
+}
+
+std::string WholeNumber(const std::string& text) {
+  std::uint64_t number = 0;
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+  return error == std::errc() && end == text.data() + text.size() && number > 0
+             ? ""
+             : "'" + text + "' is not a whole number above 0";
+}
+
+void PrintLine(const std::string& time, const Readings& readings) {
+  std::cout << time;
+  if (!readings.AnySucceeded()) {
+    std::cout << "  no gauge: nothing can be read";
+  } else {
+    for (const auto id : {FuelGaugeProperty::Status, FuelGaugeProperty::StateOfCharge,
+                          FuelGaugeProperty::VoltageNow, FuelGaugeProperty::CurrentNow,
+                          FuelGaugeProperty::Temperature}) {
+      std::cout << "  " << readings[id].ForPeople();
+    }
+  }
+  std::cout << "\n";
+}
+
+// The record changes over months: it is no matter for a watch.
+void PrintJsonLine(const std::string& time, const Readings& readings) {
+  Json line = {{"time", time}};
+  for (const Reading& reading : readings) {
+    if (reading.property->type != Type::Lifetime) {
+      line[std::string(reading.property->name)] = ToJson(reading);
+    }
+  }
+  PrintCompact(line);
+}
+
+// Ctrl-C and a plain kill are waited for, not handled: nothing runs in a signal's context.
+class StopSignals {
+ public:
+  StopSignals() {
+    ::sigemptyset(&signals);
+    ::sigaddset(&signals, SIGINT);
+    ::sigaddset(&signals, SIGTERM);
+    ::sigprocmask(SIG_BLOCK, &signals, nullptr);
+  }
+
+  /// Waits until @p time.
+  /// @return whether a signal came instead
+  bool CameBefore(steady_clock::time_point time) const {
+    using std::chrono::nanoseconds;
+    const auto left = std::max(nanoseconds(0), nanoseconds(time - steady_clock::now()));
+    const auto seconds = std::chrono::floor<std::chrono::seconds>(left);
+    timespec timeout{};
+    timeout.tv_sec = static_cast<std::time_t>(seconds.count());
+    timeout.tv_nsec = static_cast<long>((left - seconds).count());
+    return ::sigtimedwait(&signals, nullptr, &timeout) > 0;
+  }
+
+ private:
+  sigset_t signals{};
+};
+
+ExitStatus Watch(const Gauge& gauge, const WatchOptions& options) {
+  const StopSignals stop;
+  std::unique_ptr<Screen> screen;
+  if (options.csv) {
+    PrintCsvHeader();
+  } else if (!options.json && ::isatty(STDOUT_FILENO) != 0) {
+    screen = std::make_unique<Screen>();
+  }
+  const auto interval = std::chrono::duration_cast<steady_clock::duration>(
+      std::chrono::duration<double>(options.intervalSeconds));
+  auto next = steady_clock::now();
+  for (std::uint64_t taken = 1;; ++taken) {
+    const std::string time = Timestamp(Now());
+    const Readings readings = gauge.ReadAll();
+    if (screen) {
+      screen->Draw(time, readings);
+    } else if (options.csv) {
+      PrintCsvLine(time, readings);
+    } else if (options.json) {
+      PrintJsonLine(time, readings);
+    } else {
+      PrintLine(time, readings);
+    }
+    next = std::max(next + interval, steady_clock::now());  // a slow gauge is not hurried after
+    if (!std::cout.flush() || taken == options.count || stop.CameBefore(next)) {
+      return ExitStatus::Success;  // main sees to an output that failed
+    }
+  }
+}
+
+}  // namespace
+
+Action AddWatch(CLI::App& parser) {
+  const auto options = std::make_shared<WatchOptions>();
+  parser
+      .add_option("--interval", options->intervalSeconds,
+                  "Seconds between samples, 0.1 to 86400; without it 1")
+      ->type_name("S")
+      ->check(Seconds);
+  parser.add_option("--count", options->count, "Samples to take; without it until Ctrl-C")
+      ->type_name("N")
+      ->check(WholeNumber);
+  CLI::Option* const csv =
+      parser.add_flag("--csv", options->csv, "A header, then a line of raw numbers a sample");
+  parser.add_flag("--json", options->json, "A line of JSON a sample")->excludes(csv);
+  return [options](const GaugeOptions& which) { return Watch(Gauge(which), *options); };
+}
+
+}  // namespace fuelgauge

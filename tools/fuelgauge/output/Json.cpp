@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: MIT
+#include "output/Json.hpp"
+
+#include <iostream>
+#include <variant>
+
+#include "readings/LifetimeField.hpp"
+
+namespace fuelgauge {
+
+using dral::FuelGaugeStatus;
+
+std::string_view StatusName(FuelGaugeStatus status) {
+  switch (status) {
+    case FuelGaugeStatus::Success:
+      return "Success";
+    case FuelGaugeStatus::Failure:
+      return "Failure";
+    case FuelGaugeStatus::FileError:
+      return "FileError";
+    case FuelGaugeStatus::NoData:
+      return "NoData";
+  }
+  return "unknown";
+}
+
+namespace {
+
+Json ValueToJson(const dral::LifetimeData& data) {
+  Json fields;
+  for (const LifetimeField& field : LifetimeFields) {
+    fields[std::string(field.name)] = field.Value(data);
+  }
+  return fields;
+}
+
+template <typename T>
+Json ValueToJson(const T& value) {
+  return value;
+}
+
+}  // namespace
+
+Json ToJson(const Reading& reading) {
+  Json answer = {{"status", StatusName(reading.status)}, {"value", nullptr}};
+  if (reading.Succeeded()) {
+    answer["value"] = std::visit([](const auto& held) { return ValueToJson(held); }, reading.value);
+  }
+  return answer;
+}
+
+Json ToJson(const Readings& readings) {
+  Json answers;
+  for (const Reading& reading : readings) {
+    answers[std::string(reading.property->name)] = ToJson(reading);
+  }
+  return answers;
+}
+
+void Print(const Json& json) {
+  std::cout << json.dump(2, ' ', false, Json::error_handler_t::replace) << "\n";
+}
+
+void PrintCompact(const Json& json) {
+  std::cout << json.dump(-1, ' ', false, Json::error_handler_t::replace) << "\n";
+}
+
+}  // namespace fuelgauge

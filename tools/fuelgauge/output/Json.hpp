@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <FuelGaugeStatus.hpp>
+#include <nlohmann/json.hpp>
+#include <string_view>
+
+#include "readings/Readings.hpp"
+
+namespace fuelgauge {
+
+/// JSON objects keep their members in the order of the properties and fields.
+using Json = nlohmann::ordered_json;
+
+/// @return the enumerator's name
+std::string_view StatusName(dral::FuelGaugeStatus status);
+
+/// @return `{"status": …, "value": …}`; the value is null unless the status is Success
+Json ToJson(const Reading& reading);
+
+/// @return an object with a member for each reading
+Json ToJson(const Readings& readings);
+
+/// Prints @p json, readable and with a newline; bytes that are not UTF-8 are replaced.
+void Print(const Json& json);
+
+/// The same on one line.
+void PrintCompact(const Json& json);
+
+}  // namespace fuelgauge

@@ -1,0 +1,151 @@
+// SPDX-License-Identifier: MIT
+#include "output/Metrics.hpp"
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+
+#include "output/MetricsText.hpp"
+
+namespace fuelgauge {
+
+using dral::FuelGaugeProperty;
+using Labels = MetricsText::Labels;
+
+namespace {
+
+// A number in the base unit: times `factor`, divided by ten to the `decimals`.
+struct NumberMetric {
+  FuelGaugeProperty property;
+  std::string_view name;
+  std::string_view type;
+  std::string_view help;
+  int factor;
+  int decimals;
+};
+
+// Charges are in coulombs: the convention asks for base units, and finds fault with hours in a name.
+// Cycles only grow, until the gauge is replaced: a counter, whose reset Prometheus understands.
+constexpr std::array<NumberMetric, 10> NumberMetrics = {{
+    {FuelGaugeProperty::Present, "present", "gauge", "Whether a battery is present.", 1, 0},
+    {FuelGaugeProperty::VoltageNow, "voltage_volts", "gauge", "Battery voltage.", 1, 6},
+    {FuelGaugeProperty::CurrentNow, "current_amperes", "gauge",
+     "Battery current with the kernel's sign: negative while discharging.", 1, 6},
+    {FuelGaugeProperty::StateOfCharge, "charge_ratio", "gauge", "Remaining charge, 0 to 1.", 1, 2},
+    {FuelGaugeProperty::Temperature, "temperature_celsius", "gauge", "Battery temperature.", 1, 1},
+    {FuelGaugeProperty::NominalAvailableCapacity, "charge_available_coulombs", "gauge",
+     "Charge now available, not compensated for load and temperature.", 36, 4},
+    {FuelGaugeProperty::FullChargeCapacity, "charge_full_coulombs", "gauge",
+     "Charge when full, compensated for load and temperature.", 36, 4},
+    {FuelGaugeProperty::CycleCount, "cycles_total", "counter", "Charge cycles so far.", 1, 0},
+    {FuelGaugeProperty::PowerAverage, "power_average_watts", "gauge", "Average power.", 1, 6},
+    {FuelGaugeProperty::TimeToEmpty, "time_to_empty_seconds", "gauge",
+     "Time until empty; none unless discharging.", 1, 0},
+}};
+
+struct StateMetric {
+  FuelGaugeProperty property;
+  std::string_view name;
+  std::string_view help;
+  std::vector<std::string> states;
+};
+
+// The kernel's words; another one that is read gets a series too.
+const std::array<StateMetric, 3> StateMetrics = {{
+    {FuelGaugeProperty::Status,
+     "status",
+     "Charging status: 1 for the state that is.",
+     {"Unknown", "Charging", "Discharging", "Not charging", "Full"}},
+    {FuelGaugeProperty::ChargeLevel,
+     "charge_level",
+     "Charge level: 1 for the level that is.",
+     {"Unknown", "Critical", "Low", "Normal", "High", "Full"}},
+    {FuelGaugeProperty::Health,
+     "health",
+     "Battery health: 1 for the state that is.",
+     {"Unknown", "Good", "Overheat", "Dead", "Over voltage", "Cold", "Calibration required"}},
+}};
+
+void AddNumbers(MetricsText& text, const Readings& readings) {
+  for (const NumberMetric& metric : NumberMetrics) {
+    if (const auto number = readings.Number(metric.property)) {
+      text.Family(metric.name, metric.type, metric.help);
+      text.Sample(std::int64_t{*number} * metric.factor, metric.decimals);
+    }
+  }
+}
+
+void AddStates(MetricsText& text, const Readings& readings) {
+  for (const StateMetric& metric : StateMetrics) {
+    const auto now = readings.Text(metric.property);
+    if (!now) {
+      continue;
+    }
+    std::vector<std::string> states = metric.states;
+    if (std::find(states.begin(), states.end(), *now) == states.end()) {
+      states.emplace_back(*now);
+    }
+    text.Family(metric.name, "gauge", metric.help);
+    for (const std::string& state : states) {
+      text.Sample(state == *now ? 1 : 0, 0, {{"state", state}});
+    }
+  }
+}
+
+void AddRecord(MetricsText& text, const Readings& readings) {
+  const auto* record = readings.Record();
+  if (record == nullptr) {
+    return;
+  }
+  text.Family("lifetime_temperature_celsius", "gauge", "Extremes of the pack's temperature.");
+  text.Sample(record->maxTemp, 1, {{"extreme", "max"}});
+  text.Sample(record->minTemp, 1, {{"extreme", "min"}});
+  text.Family("lifetime_pack_voltage_volts", "gauge", "Extremes of the pack's voltage.");
+  text.Sample(record->maxPackVoltage, 3, {{"extreme", "max"}});
+  text.Sample(record->minPackVoltage, 3, {{"extreme", "min"}});
+  text.Family("lifetime_current_amperes", "gauge", "Extremes of the pack's current.");
+  text.Sample(record->maxChargeCurrent, 3, {{"extreme", "max_charge"}});
+  text.Sample(record->maxDischargeCurrent, 3, {{"extreme", "max_discharge"}});
+}
+
+void AddInfo(MetricsText& text, const Readings& readings) {
+  Labels labels;
+  if (const auto manufacturer = readings.Text(FuelGaugeProperty::Name)) {
+    labels.emplace_back("manufacturer", *manufacturer);
+  }
+  if (const auto technology = readings.Text(FuelGaugeProperty::Technology)) {
+    labels.emplace_back("technology", *technology);
+  }
+  if (!labels.empty()) {
+    text.Family("info", "gauge", "What the gauge says of itself.");
+    text.Sample(1, 0, labels);
+  }
+}
+
+void AddReads(MetricsText& text, const Readings& readings) {
+  text.Family("read_success", "gauge", "Whether the property could be read.");
+  for (const Reading& reading : readings) {
+    text.Sample(reading.Succeeded() ? 1 : 0, 0,
+                {{"property", std::string(reading.property->name)}});
+  }
+  text.Family("read_status", "gauge",
+              "How the read ended: 0 read, 2 not understood, 3 no such file, 4 no data.");
+  for (const Reading& reading : readings) {
+    text.Sample(static_cast<int>(reading.status), 0,
+                {{"property", std::string(reading.property->name)}});
+  }
+}
+
+}  // namespace
+
+std::string MetricsOf(const Readings& readings) {
+  MetricsText text;
+  AddInfo(text, readings);
+  AddNumbers(text, readings);
+  AddStates(text, readings);
+  AddRecord(text, readings);
+  AddReads(text, readings);
+  return text.Text();
+}
+
+}  // namespace fuelgauge

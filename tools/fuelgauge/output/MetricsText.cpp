@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: MIT
+#include "output/MetricsText.hpp"
+
+#include <algorithm>
+#include <cstdlib>
+
+#include "output/Text.hpp"
+
+namespace fuelgauge {
+
+namespace {
+
+// A label's value. What is not UTF-8 is replaced, as the format asks for UTF-8.
+std::string Quoted(const std::string& value) {
+  std::string quoted = "\"";
+  for (const char byte : ToUtf8(value)) {
+    if (byte == '\\' || byte == '"') {
+      quoted.append(1, '\\').append(1, byte);
+    } else if (byte == '\n') {
+      quoted.append("\\n");
+    } else {
+      quoted.append(1, byte);
+    }
+  }
+  return quoted.append("\"");
+}
+
+std::string Decimal(std::int64_t number, int decimals) {
+  std::string digits = std::to_string(std::abs(number));
+  if (decimals > 0) {
+    const auto least = static_cast<std::size_t>(decimals) + 1;
+    digits.insert(0, least - std::min(least, digits.size()), '0');
+    digits.insert(digits.size() - static_cast<std::size_t>(decimals), 1, '.');
+    digits.erase(digits.find_last_not_of('0') + 1);
+    if (digits.back() == '.') {
+      digits.pop_back();
+    }
+  }
+  return number < 0 ? digits.insert(0, 1, '-') : digits;
+}
+
+}  // namespace
+
+void MetricsText::Family(std::string_view name, std::string_view type, std::string_view help) {
+  family.assign("fuelgauge_").append(name);
+  text.append("# HELP ").append(family).append(" ").append(help).append("\n");
+  text.append("# TYPE ").append(family).append(" ").append(type).append("\n");
+}
+
+void MetricsText::Sample(std::int64_t number, int decimals, const Labels& labels) {
+  text.append(family);
+  char before = '{';
+  for (const auto& [name, value] : labels) {
+    text.append(1, before).append(name).append("=").append(Quoted(value));
+    before = ',';
+  }
+  text.append(labels.empty() ? " " : "} ").append(Decimal(number, decimals)).append("\n");
+}
+
+}  // namespace fuelgauge

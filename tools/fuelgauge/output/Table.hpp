@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <LifetimeData.hpp>
+#include <string>
+#include <string_view>
+
+namespace fuelgauge {
+
+/// @return @p text with blanks after it, up to @p width characters (of UTF-8, not bytes)
+std::string PadTo(std::size_t width, std::string text);
+
+/// @return one row of a table: a name, a value and what is worth saying beside it
+std::string Row(std::string_view name, std::string_view value, std::string_view remark);
+
+/// Prints such a row.
+void PrintRow(std::string_view name, std::string_view value, std::string_view remark);
+
+/// Prints a row for each field of the record.
+void PrintFields(const dral::LifetimeData& data);
+
+}  // namespace fuelgauge

@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <chrono>
+#include <string>
+
+namespace fuelgauge {
+
+/// @return the system's time. The standard library's own clock has 32 bits on a 32-bit machine, and
+///         is wrong after the year 2037.
+std::chrono::system_clock::time_point Now();
+
+/// @return the time in UTC and to the millisecond, as "2026-11-25T09:30:00.125Z"
+std::string Timestamp(std::chrono::system_clock::time_point time);
+
+}  // namespace fuelgauge

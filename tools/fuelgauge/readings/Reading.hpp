@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <FuelGaugeStatus.hpp>
+#include <PropertyValue.hpp>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "readings/Property.hpp"
+
+namespace fuelgauge {
+
+/// One property as it was read.
+struct Reading {
+  const Property* property;
+  dral::FuelGaugeStatus status;
+  dral::PropertyValue value;
+
+  bool Succeeded() const { return status == dral::FuelGaugeStatus::Success; }
+
+  /// @return the number, a flag as 0 or 1; none when it was not read or is no number
+  std::optional<int> Number() const;
+
+  /// @return the text, as long as the reading lives; none when it was not read or is no text
+  std::optional<std::string_view> Text() const;
+
+  /// @return the record; null when it was not read or is no record
+  const dral::LifetimeData* Record() const;
+
+  /// @return the value as people say it, such as "3.786 V", "yes" or "Full"; "-" when it was not
+  ///         read, nothing for the record
+  std::string ForPeople() const;
+};
+
+}  // namespace fuelgauge

@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace fuelgauge {
+
+/// The unit in which the kernel or the gauge counts a number.
+enum class Unit {
+  None,
+  Microvolt,
+  Microampere,
+  Percent,
+  TenthDegreeCelsius,
+  MicroampereHour,
+  Microwatt,
+  Second,
+  Millivolt,
+  Milliampere,
+};
+
+/// @return @p number as it was read, such as "3786000 µV"
+std::string Raw(std::int64_t number, Unit unit);
+
+/// @return @p number in the unit that people use, such as "3.786 V"; rounded to its last digit
+std::string ForPeople(std::int64_t number, Unit unit);
+
+}  // namespace fuelgauge

@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: MIT
+#include "output/Csv.hpp"
+#include "output/Table.hpp"
+#include "output/Text.hpp"
+
+#include <gtest/gtest.h>
+
+#include <ctime>
+
+#include "output/Screen.hpp"
+#include "output/Timestamp.hpp"
+
+// Stands before the C library's: the system's time is in the year 2040.
+extern "C" int timespec_get(timespec* time, int base) noexcept {
+  time->tv_sec = 2208988800;
+  time->tv_nsec = 125000000;
+  return base;
+}
+
+namespace fuelgauge {
+namespace {
+
+TEST(Output, PaddingCountsCharactersNotBytes) {
+  EXPECT_EQ(PadTo(4, "µV"), "µV  ");
+  EXPECT_EQ(PadTo(1, "°C"), "°C");
+}
+
+TEST(Output, CsvFieldsAreQuotedWhereTheyMustBe) {
+  EXPECT_EQ(CsvField("Not charging"), "Not charging");
+  EXPECT_EQ(CsvField("a,\"b\"\n"), "\"a,\"\"b\"\"\n\"");
+}
+
+TEST(Output, PrintableTextIsCutAndHasNoControlCharacters) {
+  EXPECT_EQ(Printable("a\x1b[2Jb\n\x7f"), "a?[2Jb??");
+  EXPECT_EQ(Printable(std::string(61, 'x')), std::string(60, 'x') + "...");
+}
+
+TEST(Screen, BarsAndSparklinesHoldWhatTheGaugeMaySay) {
+  EXPECT_EQ(Bar(74, 10), "[#######...]");
+  EXPECT_EQ(Bar(65535, 4) + Bar(-1, 4), "[####][....]");
+  EXPECT_EQ(Sparkline({}), "");
+  EXPECT_EQ(Sparkline({5, std::nullopt, 5}), "▁ ▁");
+  EXPECT_EQ(Sparkline({-2147483647 - 1, 0, 2147483647}), "▁▄█");
+}
+
+TEST(Timestamp, IsInUtcToTheMillisecond) {
+  const std::chrono::system_clock::time_point epoch;
+  EXPECT_EQ(Timestamp(epoch + std::chrono::milliseconds(1005)), "1970-01-01T00:00:01.005Z");
+  EXPECT_EQ(Timestamp(epoch + std::chrono::seconds(4102444800)), "2100-01-01T00:00:00.000Z");
+  EXPECT_EQ(Timestamp(Now()), "2040-01-01T00:00:00.125Z");
+}
+
+}  // namespace
+}  // namespace fuelgauge

@@ -30,7 +30,9 @@ ExitStatus Metrics(const Gauge& gauge, const std::optional<std::string>& output)
 
 Action AddMetrics(CLI::App& parser) {
   const auto output = std::make_shared<std::optional<std::string>>();
-  parser.add_option("--output", *output, "Put the text in place as this file, whole; links are followed")
+  parser
+      .add_option("--output", *output,
+                  "Put the text in place as this file, whole; links are followed")
       ->type_name("FILE");
   return [output](const GaugeOptions& which) { return Metrics(Gauge(which), *output); };
 }

@@ -102,6 +102,28 @@ class Presence {
   std::string lastSeen;
 };
 
+void PrintSample(const WatchOptions& options, const std::string& time, const Readings& readings) {
+  if (options.csv) {
+    PrintCsvLine(time, readings);
+  } else if (options.json) {
+    PrintJsonLine(time, readings);
+  } else {
+    PrintLine(time, readings);
+  }
+}
+
+void WaitUntil(steady_clock::time_point next, const WatchSignals& signals,
+               std::optional<Screen>& screen) {
+  while (const int signal = signals.CameBefore(next)) {
+    if (screen && signal == SIGCONT) {
+      screen->Leave();
+    }
+    if (screen) {
+      screen->Redraw();
+    }
+  }
+}
+
 ExitStatus Watch(const Gauge& gauge, const WatchOptions& options) {
   const WatchSignals signals;
   std::optional<Screen> screen;
@@ -126,22 +148,13 @@ ExitStatus Watch(const Gauge& gauge, const WatchOptions& options) {
     if (screen) {
       screen->Draw(time, readings);
     } else if (there) {
-      options.csv    ? PrintCsvLine(time, readings)
-      : options.json ? PrintJsonLine(time, readings)
-                     : PrintLine(time, readings);
+      PrintSample(options, time, readings);
     }
     next = std::max(next + interval, steady_clock::now());  // a slow gauge is not hurried after
     if (!std::cout.flush() || taken == options.count) {
       return status;  // main sees to an output that failed
     }
-    while (const int signal = signals.CameBefore(next)) {
-      if (screen && signal == SIGCONT) {
-        screen->Leave();
-      }
-      if (screen) {
-        screen->Redraw();
-      }
-    }
+    WaitUntil(next, signals, screen);
   }
 }
 

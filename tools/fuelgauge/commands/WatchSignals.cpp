@@ -20,7 +20,8 @@ extern "C" void End(int /*signal*/) {
   termios unused{};
   pollfd output{STDOUT_FILENO, POLLOUT, 0};
   if (::tcgetattr(STDOUT_FILENO, &unused) == 0 && ::poll(&output, 1, 0) > 0) {
-    static_cast<void>(!::write(STDOUT_FILENO, "\n", 1));  // behind the "^C" that the terminal shows
+    // Behind the "^C" that the terminal shows.
+    [[maybe_unused]] const ssize_t written = ::write(STDOUT_FILENO, "\n", 1);
   }
   ::_exit(endStatus);
 }

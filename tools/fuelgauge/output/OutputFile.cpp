@@ -60,7 +60,7 @@ std::string FileMeant(const std::string& path, const std::optional<struct stat>&
   ssize_t length = 0;
   while ((length = ::readlink(meant.c_str(), target.data(), target.size())) >= 0) {
     const std::string next(target.data(), static_cast<std::size_t>(length));
-    meant = next.front() == '/' ? next : FolderOf(meant) + next;
+    meant = next.front() == '/' ? next : FolderOf(meant).append(next);
   }
   // A link of /proc to an open file leads there even when its text is no name, or another file's.
   struct stat found {};

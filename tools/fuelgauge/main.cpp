@@ -89,6 +89,7 @@ ExitStatus RunAndReport(int argc, char** argv) {
 int main(int argc, char** argv) {
   using fuelgauge::ExitStatus;
   static_cast<void>(std::signal(SIGPIPE, SIG_IGN));
+  static_cast<void>(std::signal(SIGXFSZ, SIG_IGN));  // a file at its limit: the write says so
   ExitStatus status = fuelgauge::RunAndReport(argc, argv);
   if (!std::cout.flush() && !fuelgauge::ReaderIsGone()) {
     fuelgauge::Complain("the output could not be written");

@@ -4,14 +4,18 @@
 #include <charconv>
 #include <chrono>
 #include <csignal>
+#include <cstdlib>
 #include <iostream>
 #include <locale>
 #include <memory>
+#include <optional>
 #include <sstream>
 
 #include "commands/Commands.hpp"
+#include "commands/WatchSignals.hpp"
 #include "output/Csv.hpp"
 #include "output/Json.hpp"
+#include "output/Message.hpp"
 #include "output/Screen.hpp"
 #include "output/Timestamp.hpp"
 
@@ -49,14 +53,10 @@ std::string WholeNumber(const std::string& text) {
 
 void PrintLine(const std::string& time, const Readings& readings) {
   std::cout << time;
-  if (!readings.AnySucceeded()) {
-    std::cout << "  no gauge: nothing can be read";
-  } else {
-    for (const auto id : {FuelGaugeProperty::Status, FuelGaugeProperty::StateOfCharge,
-                          FuelGaugeProperty::VoltageNow, FuelGaugeProperty::CurrentNow,
-                          FuelGaugeProperty::Temperature}) {
-      std::cout << "  " << readings[id].ForPeople();
-    }
+  for (const auto id :
+       {FuelGaugeProperty::Status, FuelGaugeProperty::StateOfCharge, FuelGaugeProperty::VoltageNow,
+        FuelGaugeProperty::CurrentNow, FuelGaugeProperty::Temperature}) {
+    std::cout << "  " << readings[id].ForPeople();
   }
   std::cout << "\n";
 }
@@ -72,59 +72,89 @@ void PrintJsonLine(const std::string& time, const Readings& readings) {
   PrintCompact(line);
 }
 
-// Ctrl-C and a plain kill are waited for, not handled: nothing runs in a signal's context.
-class StopSignals {
+// What shows control sequences as they are, such as an editor's shell, gets lines.
+bool DrawsInPlace() {
+  const char* const terminal = ::secure_getenv("TERM");
+  return ::isatty(STDOUT_FILENO) != 0 && terminal != nullptr && *terminal != '\0' &&
+         std::string_view(terminal) != "dumb";
+}
+
+// Tells once that the gauge is gone, and once that it is back.
+class Presence {
  public:
-  StopSignals() {
-    ::sigemptyset(&signals);
-    ::sigaddset(&signals, SIGINT);
-    ::sigaddset(&signals, SIGTERM);
-    ::sigprocmask(SIG_BLOCK, &signals, nullptr);
+  /// @return whether something was told
+  bool Tell(bool nowThere, const std::string& time) {
+    const bool changed = nowThere != there;
+    if (changed && nowThere) {
+      Complain("gauge found at " + time);
+    } else if (changed) {
+      Complain(lastSeen.empty() ? NoGauge : "no gauge: nothing could be read since " + lastSeen);
+    }
+    there = nowThere;
+    lastSeen = nowThere ? time : lastSeen;
+    return changed;
   }
 
-  /// Waits until @p time.
-  /// @return whether a signal came instead
-  bool CameBefore(steady_clock::time_point time) const {
-    using std::chrono::nanoseconds;
-    const auto left = std::max(nanoseconds(0), nanoseconds(time - steady_clock::now()));
-    const auto seconds = std::chrono::floor<std::chrono::seconds>(left);
-    timespec timeout{};
-    timeout.tv_sec = static_cast<std::time_t>(seconds.count());
-    timeout.tv_nsec = static_cast<long>((left - seconds).count());
-    return ::sigtimedwait(&signals, nullptr, &timeout) > 0;
-  }
+  bool Ever() const { return !lastSeen.empty(); }
 
  private:
-  sigset_t signals{};
+  bool there = true;
+  std::string lastSeen;
 };
 
+void PrintSample(const WatchOptions& options, const std::string& time, const Readings& readings) {
+  if (options.csv) {
+    PrintCsvLine(time, readings);
+  } else if (options.json) {
+    PrintJsonLine(time, readings);
+  } else {
+    PrintLine(time, readings);
+  }
+}
+
+void WaitUntil(steady_clock::time_point next, const WatchSignals& signals,
+               std::optional<Screen>& screen) {
+  while (const int signal = signals.CameBefore(next)) {
+    if (screen && signal == SIGCONT) {
+      screen->Leave();
+    }
+    if (screen) {
+      screen->Redraw();
+    }
+  }
+}
+
 ExitStatus Watch(const Gauge& gauge, const WatchOptions& options) {
-  const StopSignals stop;
-  std::unique_ptr<Screen> screen;
+  const WatchSignals signals;
+  std::optional<Screen> screen;
   if (options.csv) {
     PrintCsvHeader();
-  } else if (!options.json && ::isatty(STDOUT_FILENO) != 0) {
-    screen = std::make_unique<Screen>();
+  } else if (!options.json && DrawsInPlace()) {
+    screen.emplace();
   }
   const auto interval = std::chrono::duration_cast<steady_clock::duration>(
       std::chrono::duration<double>(options.intervalSeconds));
+  Presence presence;
   auto next = steady_clock::now();
   for (std::uint64_t taken = 1;; ++taken) {
     const std::string time = Timestamp(Now());
     const Readings readings = gauge.ReadAll();
+    const bool there = readings.AnySucceeded();
+    if (presence.Tell(there, time) && screen) {
+      screen->Leave();
+    }
+    const ExitStatus status = presence.Ever() ? ExitStatus::Success : ExitStatus::FileError;
+    WatchSignals::EndWith(status);
     if (screen) {
       screen->Draw(time, readings);
-    } else if (options.csv) {
-      PrintCsvLine(time, readings);
-    } else if (options.json) {
-      PrintJsonLine(time, readings);
-    } else {
-      PrintLine(time, readings);
+    } else if (there) {
+      PrintSample(options, time, readings);
     }
     next = std::max(next + interval, steady_clock::now());  // a slow gauge is not hurried after
-    if (!std::cout.flush() || taken == options.count || stop.CameBefore(next)) {
-      return ExitStatus::Success;  // main sees to an output that failed
+    if (!std::cout.flush() || taken == options.count) {
+      return status;  // main sees to an output that failed
     }
+    WaitUntil(next, signals, screen);
   }
 }
 

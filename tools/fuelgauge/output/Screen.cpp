@@ -8,26 +8,41 @@
 #include <array>
 #include <iostream>
 
+#include "output/Columns.hpp"
 #include "output/Table.hpp"
-
-namespace fuelgauge {
 
 using dral::FuelGaugeProperty;
 
+namespace fuelgauge {
 namespace {
 
 constexpr std::size_t CourseLength = 40;
 
-// The few sequences that every terminal since the VT220 knows. Lines are cut, not wrapped.
-constexpr auto TakeOver = "\x1b[?1049h\x1b[?25l\x1b[?7l";
-constexpr auto GiveBack = "\x1b[?7h\x1b[?25h\x1b[?1049l";
-constexpr auto ToTop = "\x1b[H";
+// The few sequences that every terminal since the VT100 knows.
 constexpr auto ClearLine = "\x1b[K";
 constexpr auto ClearBelow = "\x1b[J";
 
-std::size_t Rows() {
+// What a low window shows first; then the heading, and then the rest from the top.
+constexpr std::array Important = {FuelGaugeProperty::Status, FuelGaugeProperty::StateOfCharge,
+                                  FuelGaugeProperty::VoltageNow, FuelGaugeProperty::CurrentNow};
+constexpr std::size_t HeadingRank = Important.size();
+
+std::size_t Rank(FuelGaugeProperty id) {
+  const auto* const found = std::find(Important.begin(), Important.end(), id);
+  return found != Important.end() ? static_cast<std::size_t>(found - Important.begin())
+                                  : HeadingRank + 1;
+}
+
+struct Window {
+  std::size_t rows;
+  std::size_t columns;
+};
+
+// A serial console may not know its size: it says 0.
+Window WindowNow() {
   winsize size{};
-  return ::ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_row > 1 ? size.ws_row : 24U;
+  ::ioctl(STDOUT_FILENO, TIOCGWINSZ, &size);
+  return {size.ws_row > 0 ? size.ws_row : 24U, size.ws_col > 0 ? size.ws_col : 80U};
 }
 
 }  // namespace
@@ -64,41 +79,27 @@ std::string Sparkline(const std::deque<std::optional<int>>& numbers) {
   return line;
 }
 
-Screen::Screen() {
-  std::cout << TakeOver;
-}
-
-Screen::~Screen() {
-  std::cout << GiveBack;
-  for (const std::string& line : lines) {
-    std::cout << line << "\n";
+std::vector<Screen::Line> Screen::Table(const std::string& time, const Readings& readings) const {
+  const std::string heading = "fuelgauge watch, " + time;
+  if (!readings.AnySucceeded()) {
+    return {{HeadingRank, heading + ": no gauge"}};
   }
-  std::cout.flush();
-}
-
-std::vector<std::string> Screen::Lines(const std::string& time, const Readings& readings) const {
-  std::vector<std::string> table = {"fuelgauge watch, " + time};
-  if (readings.AnySucceeded()) {
-    table.emplace_back();
-  } else {
-    table.push_back(lastSeen.empty() ? "NO GAUGE: nothing can be read"
-                                     : "NO GAUGE: nothing can be read since " + lastSeen);
-  }
+  std::vector<Line> lines = {{HeadingRank, heading + "; Ctrl-C ends"}};
   for (const Reading& reading : readings) {
+    const FuelGaugeProperty id = reading.property->id;
     std::string remark;
-    if (reading.property->id == FuelGaugeProperty::StateOfCharge && reading.Succeeded()) {
+    if (id == FuelGaugeProperty::StateOfCharge && reading.Succeeded()) {
       remark = Bar(*reading.Number(), 20);
-    } else if (reading.property->id == FuelGaugeProperty::VoltageNow) {
+    } else if (id == FuelGaugeProperty::VoltageNow) {
       remark = Sparkline(voltages);
-    } else if (reading.property->id == FuelGaugeProperty::CurrentNow) {
+    } else if (id == FuelGaugeProperty::CurrentNow) {
       remark = Sparkline(currents);
     }
-    if (reading.property->id != FuelGaugeProperty::LifetimeData) {
-      table.push_back(Row(reading.property->name, reading.ForPeople(), remark));
+    if (id != FuelGaugeProperty::LifetimeData) {
+      lines.push_back({Rank(id), Row(reading.property->name, reading.ForPeople(), remark)});
     }
   }
-  table.emplace_back("Ctrl-C ends");
-  return table;
+  return lines;
 }
 
 void Screen::Draw(const std::string& time, const Readings& readings) {
@@ -110,16 +111,38 @@ void Screen::Draw(const std::string& time, const Readings& readings) {
   };
   add(voltages, FuelGaugeProperty::VoltageNow);
   add(currents, FuelGaugeProperty::CurrentNow);
-  if (readings.AnySucceeded()) {
-    lastSeen = time;
+  table = Table(time, readings);
+  Paint({});
+}
+
+// A terminal that has wrapped lines joins them again when it is wide enough, unless they are cleared.
+void Screen::Redraw() {
+  Paint(ClearBelow);
+}
+
+void Screen::Paint(std::string_view first) {
+  const Window window = WindowNow();
+  std::size_t above = 0;  // rows: a window made narrower has wrapped the lines that it holds
+  for (const std::string& line : drawn) {
+    above += (std::max<std::size_t>(Columns(line), 1) - 1) / window.columns + 1;
   }
-  lines = Lines(time, readings);
-  std::cout << ToTop;
-  const std::size_t shown = std::min(lines.size(), Rows());
-  for (std::size_t row = 0; row < shown; ++row) {
-    std::cout << (row > 0 ? "\n" : "") << lines[row] << ClearLine;
+  std::vector<const Line*> shown;
+  for (const Line& line : table) {
+    shown.push_back(&line);
   }
-  std::cout << ClearBelow << std::flush;
+  std::stable_sort(shown.begin(), shown.end(),
+                   [](const Line* left, const Line* right) { return left->rank < right->rank; });
+  shown.resize(std::min(shown.size(), std::max<std::size_t>(window.rows - 1, 1)));
+  std::sort(shown.begin(), shown.end());
+
+  std::string frame = above > 0 ? "\r\x1b[" + std::to_string(above) + "A" : "";
+  frame += first;
+  drawn.clear();
+  for (const Line* line : shown) {
+    drawn.emplace_back(CutTo(window.columns - 1, line->text));  // some wrap at the last column
+    frame.append(drawn.back()).append(ClearLine).append("\n");
+  }
+  std::cout << frame << ClearBelow << std::flush;
 }
 
 }  // namespace fuelgauge

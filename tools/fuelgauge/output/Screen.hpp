@@ -4,33 +4,42 @@
 #include <deque>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "readings/Readings.hpp"
 
 namespace fuelgauge {
 
-/// The table that `watch` redraws in place on a terminal, with a bar for the charge and the recent
-/// course of voltage and current. It takes the terminal over while it lives.
+/// The table that `watch` draws on a terminal again and again in the same place, with a bar for the
+/// charge and the recent course of voltage and current. It changes nothing that would have to be
+/// restored: between two drawings the cursor waits below the table, whatever ends the program.
 class Screen {
  public:
-  Screen();
-  /// Gives the terminal back and leaves the last table on it.
-  ~Screen();
-  Screen(const Screen&) = delete;
-  Screen& operator=(const Screen&) = delete;
-
+  /// Draws the table over the last one.
   void Draw(const std::string& time, const Readings& readings);
+
+  /// Draws the last table once more, to fit the window as it is now.
+  void Redraw();
+
+  /// Leaves the last table where it is: the next one comes below what is printed meanwhile.
+  void Leave() { drawn.clear(); }
 
  private:
   using Course = std::deque<std::optional<int>>;
 
-  std::vector<std::string> Lines(const std::string& time, const Readings& readings) const;
+  struct Line {
+    std::size_t rank;  // a low window shows those of the lowest
+    std::string text;
+  };
+
+  void Paint(std::string_view first);
+  std::vector<Line> Table(const std::string& time, const Readings& readings) const;
 
   Course voltages;
   Course currents;
-  std::string lastSeen;
-  std::vector<std::string> lines;
+  std::vector<Line> table;
+  std::vector<std::string> drawn;
 };
 
 /// @return a bar of @p width characters, filled by @p percent

@@ -4,18 +4,14 @@
 #include <algorithm>
 #include <iostream>
 
+#include "output/Columns.hpp"
 #include "readings/LifetimeField.hpp"
 #include "readings/Units.hpp"
 
 namespace fuelgauge {
 
 std::string PadTo(std::size_t width, std::string text) {
-  const auto continues = [](char byte) {
-    return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U;
-  };
-  const auto hidden = std::count_if(text.begin(), text.end(), continues);
-  const std::size_t characters = text.size() - static_cast<std::size_t>(hidden);
-  return text.append(width - std::min(width, characters), ' ');
+  return text.append(width - std::min(width, Columns(text)), ' ');
 }
 
 std::string Row(std::string_view name, std::string_view value, std::string_view remark) {

@@ -7,7 +7,7 @@
 
 namespace fuelgauge {
 
-/// @return @p text with blanks after it, up to @p width characters (of UTF-8, not bytes)
+/// @return @p text with blanks after it, up to @p width columns
 std::string PadTo(std::size_t width, std::string text);
 
 /// @return one row of a table: a name, a value and what is worth saying beside it

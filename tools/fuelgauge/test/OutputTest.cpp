@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "output/Columns.hpp"
 #include "output/Csv.hpp"
 #include "output/Table.hpp"
 #include "output/Text.hpp"
@@ -20,9 +21,11 @@ extern "C" int timespec_get(timespec* time, int base) noexcept {
 namespace fuelgauge {
 namespace {
 
-TEST(Output, PaddingCountsCharactersNotBytes) {
+TEST(Output, PaddingAndCutsCountColumnsNotBytes) {
   EXPECT_EQ(PadTo(4, "µV"), "µV  ");
   EXPECT_EQ(PadTo(1, "°C"), "°C");
+  EXPECT_EQ(CutTo(4, "▁µ電x"), "▁µ電");
+  EXPECT_EQ(CutTo(3, "▁µ電x"), "▁µ");
 }
 
 TEST(Output, CsvFieldsAreQuotedWhereTheyMustBe) {

@@ -11,6 +11,8 @@
 #include <mutex>
 #include <utility>
 
+#include "Visible.hpp"
+
 namespace dral {
 namespace {
 
@@ -28,7 +30,7 @@ void WriteToStandardError(std::string_view bytes) {
 }
 
 std::uint32_t LevelFromEnvironment() {
-  const char* const value = std::getenv("KESP_LOG_LEVEL");
+  const char* const value = ::secure_getenv("KESP_LOG_LEVEL");
   if (value == nullptr) {
     return DefaultLevel;
   }
@@ -36,7 +38,7 @@ std::uint32_t LevelFromEnvironment() {
   std::uint32_t level = DefaultLevel;
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), level);
   if (error != std::errc() || end != text.data() + text.size()) {
-    WriteToStandardError("<4>KESP_LOG_LEVEL='" + std::string(text) +
+    WriteToStandardError("<4>KESP_LOG_LEVEL='" + Visible(text) +
                          "' is not a number; logging errors only\n");
     return DefaultLevel;
   }
@@ -66,8 +68,8 @@ std::string Line(const LogRecord& record) {
   std::string line = "<";
   line.append(std::to_string(priority)).append(">").append(record.source).append(":");
   line.append(record.function).append(":").append(std::to_string(record.line));
-  line.append(": ").append(record.text);
-  line.erase(line.find_last_not_of('\n') + 1);
+  const std::string_view text = record.text;
+  line.append(": ").append(Visible(text.substr(0, text.find_last_not_of('\n') + 1)));
   return line.append("\n");
 }
 

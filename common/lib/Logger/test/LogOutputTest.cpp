@@ -21,6 +21,10 @@ std::string Emitted(unsigned level, const std::string& text) {
 TEST(LogOutput, LinesAreWhatJournaldReads) {
   EXPECT_EQ(Emitted(3, "text"), "<3>lib/src/Class:Function:12: text\n");
   EXPECT_EQ(Emitted(8, "text\n\n"), "<7>lib/src/Class:Function:12: text\n");
+  EXPECT_EQ(
+      Emitted(3, "25 °C 電\n<0>forged\t\x1b[2J\x7f \xc2\x9b \x9b \xc0\x9b \xe0\x80\x9b \xe2\x82"),
+      "<3>lib/src/Class:Function:12: 25 °C 電\\x0a<0>forged\\x09\\x1b[2J\\x7f \\xc2\\x9b \\x9b "
+      "\\xc0\\x9b \\xe0\\x80\\x9b \\xe2\\x82\n");
 }
 
 TEST(LogOutput, PiecesAreJoinedAndAFlushSplitsNothing) {
@@ -52,13 +56,13 @@ TEST(LogOutput, LevelComesFromTheEnvironmentAndThenFromTheProgram) {
                                                                : 3;
           return WEXITSTATUS(status) == wanted + 1;
         },
-        environment != nullptr && environment == std::string("loud")
-            ? "KESP_LOG_LEVEL='loud' is not a number"
+        environment != nullptr && environment == std::string("loud\n<0>x")
+            ? R"(^<4>KESP_LOG_LEVEL='loud\\x0a<0>x' is not a number)"
             : "");
   };
   highest("8");
   highest("0");
-  highest("loud");
+  highest("loud\n<0>x");
   LogOutput::SetLevel(LogLevel{6});
   EXPECT_TRUE(LogClient::LevelIsEnabled(LogLevel{6}));
   EXPECT_FALSE(LogClient::LevelIsEnabled(LogLevel{7}));

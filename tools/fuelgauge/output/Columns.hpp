@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstddef>
+#include <string_view>
+
+namespace fuelgauge {
+
+/// @return how many columns of a terminal @p text (UTF-8) takes. A character that some terminals show
+///         narrow and others wide counts as wide.
+std::size_t Columns(std::string_view text);
+
+/// @return as many of the first characters of @p text as fit into @p columns
+std::string_view CutTo(std::size_t columns, std::string_view text);
+
+}  // namespace fuelgauge

@@ -58,7 +58,7 @@ int Replace(const std::string& path, const std::string& text) {
 }
 
 ExitStatus Metrics(const Gauge& gauge, const std::optional<std::string>& output) {
-  const std::string text = MetricsOf(gauge.ReadAllWithCauses());
+  const std::string text = MetricsOf(gauge.ReadAll());
   if (!output) {
     std::cout << text;
   } else if (const int error = Replace(*output, text); error != 0) {

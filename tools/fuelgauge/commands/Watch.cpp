@@ -13,6 +13,7 @@
 #include "output/Csv.hpp"
 #include "output/Json.hpp"
 #include "output/Screen.hpp"
+#include "output/Text.hpp"
 #include "output/Timestamp.hpp"
 
 using dral::FuelGaugeProperty;
@@ -55,7 +56,7 @@ void PrintLine(const std::string& time, const Readings& readings) {
     for (const auto id : {FuelGaugeProperty::Status, FuelGaugeProperty::StateOfCharge,
                           FuelGaugeProperty::VoltageNow, FuelGaugeProperty::CurrentNow,
                           FuelGaugeProperty::Temperature}) {
-      std::cout << "  " << readings[id].ForPeople();
+      std::cout << "  " << TerminalSafe(readings[id].ForPeople());
     }
   }
   std::cout << "\n";

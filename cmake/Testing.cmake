@@ -20,5 +20,5 @@ function(add_gauge_test name)
   endif()
   add_test(NAME ${name}
            COMMAND ${PROJECT_SOURCE_DIR}/simulation/with-gauge ${command} ${arg_COMMAND})
-  set_tests_properties(${name} PROPERTIES SKIP_RETURN_CODE 77)
+  set_tests_properties(${name} PROPERTIES SKIP_RETURN_CODE 77 TIMEOUT 300)
 endfunction()

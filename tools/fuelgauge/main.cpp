@@ -8,6 +8,8 @@
 #include <exception>
 #include <iostream>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "commands/Commands.hpp"
 #include "output/Message.hpp"
@@ -27,6 +29,36 @@ bool ReaderIsGone() {
   return ::poll(&output, 1, 0) > 0 && (output.revents & POLLERR) != 0;
 }
 
+// The words of the command line, the last one first, as CLI11 wants them. Behind "--device=" it would
+// take the next word for the value.
+std::vector<std::string> Words(int argc, char** argv) {
+  std::vector<std::string> words;
+  for (int i = argc - 1; i > 0; --i) {
+    std::string word = argv[i];
+    if (word.starts_with("--") && word.ends_with("=")) {
+      words.emplace_back();
+      word.pop_back();
+    }
+    words.push_back(std::move(word));
+  }
+  return words;
+}
+
+// @return what is wrong, and the help that has the option or the word in question
+std::string Explain(const CLI::ParseError& error, const CLI::App& app) {
+  std::string text = error.what();
+  if (error.get_exit_code() == static_cast<int>(CLI::ExitCodes::ExtrasError)) {
+    text = "not expected:";
+    for (const std::string& word : app.remaining(true)) {  // in the order given
+      text.append(" '").append(word).append("'");
+    }
+  }
+  const auto commands = app.get_subcommands();
+  const bool shared = app.get_option_no_throw(text.substr(0, text.find(':'))) != nullptr;
+  const std::string command = shared || commands.empty() ? "" : commands[0]->get_name() + " ";
+  return text + "; 'fuelgauge " + command + "--help' shows the usage";
+}
+
 ExitStatus Run(int argc, char** argv) {
   GaugeOptions which;
   bool verbose = false;
@@ -36,7 +68,7 @@ ExitStatus Run(int argc, char** argv) {
   app.fallthrough();             // the options below may stand behind the command as well
   app.set_version_flag("--version", "fuelgauge " KESP_VERSION);
   app.add_option("--device", which.device,
-                 "Folder of the gauge, instead of /sys/class/power_supply/bq27542-0")
+                 std::string("Folder of the gauge, instead of ") + DefaultFolder)
       ->type_name("DIR")
       ->check(NotEmpty);
   app.add_option("--lifetime-file", which.lifetimeFile,
@@ -52,13 +84,13 @@ ExitStatus Run(int argc, char** argv) {
   }
 
   try {
-    app.parse(argc, argv);
+    app.parse(Words(argc, argv));
   } catch (const CLI::ParseError& error) {
     if (error.get_exit_code() == static_cast<int>(CLI::ExitCodes::Success)) {
       app.exit(error);  // --help or --version: prints it
       return ExitStatus::Success;
     }
-    throw UsageError(std::string(error.what()) + "; 'fuelgauge --help' shows the usage");
+    throw UsageError(Explain(error, app));
   }
   if (!action) {
     throw UsageError("no command given; 'fuelgauge --help' shows them all");

@@ -1,98 +1,125 @@
 // SPDX-License-Identifier: MIT
+#include "readings/Check.hpp"
+
+#include <algorithm>
 #include <iostream>
+#include <map>
 #include <memory>
 
 #include "commands/Commands.hpp"
 #include "output/Json.hpp"
 #include "output/Message.hpp"
 #include "output/Text.hpp"
-#include "readings/Rules.hpp"
 
 namespace fuelgauge {
 namespace {
 
-// Such as " (Status Discharging, CurrentNow 412 mA)". A text of the gauge may hold anything.
-std::string Values(const Rule& rule, const Readings& readings) {
+const std::map<std::string, Severity> Severities = {
+    {"notice", Severity::Notice}, {"warning", Severity::Warning}, {"error", Severity::Error}};
+
+struct CheckOptions {
+  bool json = false;
+  std::string severity = "warning";
+};
+
+const std::string& NameOf(Severity severity) {
+  return std::find_if(Severities.begin(), Severities.end(),
+                      [severity](const auto& each) { return each.second == severity; })
+      ->first;
+}
+
+// Such as "Status Discharging, CurrentNow 412 mA".
+std::string ValuesForPeople(const Evidence& evidence, const Readings& readings) {
   std::string values;
-  for (const auto id : rule.properties) {
+  const auto add = [&values](std::string_view name, std::string_view between,
+                             const std::string& value) {
+    values.append(values.empty() ? "" : ", ").append(name).append(between).append(value);
+  };
+  for (const auto id : evidence.properties) {
     const Reading& reading = readings[id];
-    values.append(values.empty() ? " (" : ", ").append(reading.property->name);
-    values.append(" ").append(Printable(reading.ForPeople()));
+    add(reading.property->name, reading.Succeeded() ? " " : ": ",
+        reading.Succeeded() ? reading.ForPeople() : reading.Reason());
   }
-  return values.empty() ? values : values.append(")");
+  for (const LifetimeField* field : evidence.fields) {
+    add(field->name, " ", ForPeople(field->Value(*readings.Record()), field->unit));
+  }
+  return values;
 }
 
-Json Findings(const Readings& readings) {
-  Json findings = Json::array();
-  for (const Rule& rule : Rules) {
-    if (rule.broken(readings)) {
-      Json values = Json::object();
-      for (const auto id : rule.properties) {
-        const Reading& reading = readings[id];
-        values[std::string(reading.property->name)] = ToJson(reading);
-      }
-      findings.push_back({{"rule", rule.name},
-                          {"severity", rule.severity},
-                          {"reason", std::string(rule.reason) + Values(rule, readings)},
-                          {"values", values}});
-    }
+Json ValuesToJson(const Evidence& evidence, const Readings& readings) {
+  Json values;
+  for (const auto id : evidence.properties) {
+    values[std::string(readings[id].property->name)] = ToJson(readings[id]);
   }
-  return findings;
+  for (const LifetimeField* field : evidence.fields) {
+    values[std::string(field->name)] = field->Value(*readings.Record());
+  }
+  return values;
 }
 
-// What could not be read, why, and whether that is in order.
-Json Unread(const Gauge& gauge, const Readings& readings) {
-  Json unread = Json::array();
+void PrintJson(const std::vector<Finding>& findings, const Readings& readings) {
+  Json answer = {{"findings", Json::array()}, {"unread", Json::array()}};
+  for (const auto& [rule, evidence] : findings) {
+    answer["findings"].push_back({{"rule", rule->name},
+                                  {"severity", NameOf(rule->severity)},
+                                  {"reason", rule->reason},
+                                  {"values", ValuesToJson(evidence, readings)}});
+  }
   for (const Reading& reading : readings) {
     if (!reading.Succeeded()) {
-      const Property& property = *reading.property;
-      unread.push_back({{"property", property.name},
-                        {"normal", UnreadIsNormal(reading, readings)},
-                        {"reason", gauge.ExplainRead(property, property.type, reading.status)}});
+      answer["unread"].push_back({{"property", reading.property->name},
+                                  {"normal", reading.MayBeMissing()},
+                                  {"reason", reading.Reason()}});
     }
   }
-  return unread;
+  Print(answer);
 }
 
-void PrintForPeople(const Json& findings, const Json& unread) {
-  const auto text = [](const Json& object, const char* name) {
-    return object[name].get<std::string>();
-  };
+void PrintForPeople(const std::vector<Finding>& findings, const Readings& readings) {
   if (findings.empty()) {
     std::cout << "nothing is wrong\n";
   }
-  for (const Json& finding : findings) {
-    std::cout << text(finding, "severity") << ": " << text(finding, "rule") << ": "
-              << text(finding, "reason") << "\n";
+  for (const auto& [rule, evidence] : findings) {
+    std::cout << NameOf(rule->severity) << ": " << rule->name << ": " << rule->reason << " ("
+              << TerminalSafe(ValuesForPeople(evidence, readings)) << ")\n";
   }
-  for (const Json& each : unread) {
-    std::cout << (each["normal"] == true ? "normal: " : "error: ") << text(each, "property")
-              << " could not be read: " << text(each, "reason") << "\n";
+  for (const Reading& reading : readings) {
+    if (reading.MayBeMissing()) {
+      std::cout << "normal: " << reading.property->name << ": " << reading.Reason() << "\n";
+    }
   }
 }
 
-ExitStatus Check(const Gauge& gauge, bool json) {
-  const Readings readings = gauge.ReadAllWithCauses();
+ExitStatus Check(const Gauge& gauge, const CheckOptions& options) {
+  const Readings readings = gauge.ReadAll();
+  const std::vector<Finding> findings = Check(readings);
+  if (options.json) {
+    PrintJson(findings, readings);
+  } else if (readings.AnySucceeded()) {
+    PrintForPeople(findings, readings);
+  }
   if (!readings.AnySucceeded()) {
-    Complain(NoGauge);
+    Complain(gauge.Missing(readings));
     return ToExitStatus(readings.begin()->status);
   }
-  const Json findings = Findings(readings);
-  const Json unread = Unread(gauge, readings);
-  if (json) {
-    Print({{"findings", findings}, {"unread", unread}});
-  } else {
-    PrintForPeople(findings, unread);
-  }
-  return findings.empty() ? ExitStatus::Success : ExitStatus::Findings;
+  const Severity least = Severities.at(options.severity);
+  const bool wrong = std::any_of(findings.begin(), findings.end(), [least](const Finding& each) {
+    return each.rule->severity >= least;
+  });
+  return wrong ? ExitStatus::Findings : ExitStatus::Success;
 }
 
 }  // namespace
 
 Action AddCheck(CLI::App& parser) {
-  const auto json = std::make_shared<bool>();
-  parser.add_flag("--json", *json, "Answer in JSON");
-  return [json](const GaugeOptions& which) { return Check(Gauge(which), *json); };
+  const auto options = std::make_shared<CheckOptions>();
+  parser.add_flag("--json", options->json, "Answer in JSON");
+  parser
+      .add_option("--severity", options->severity,
+                  "The least that ends with 1: notice, warning or error; without it warning")
+      ->type_name("LEVEL")
+      ->check(CLI::IsMember(Severities).description(""));
+  return [options](const GaugeOptions& which) { return Check(Gauge(which), *options); };
 }
 
 }  // namespace fuelgauge

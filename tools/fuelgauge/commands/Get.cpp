@@ -6,7 +6,9 @@
 #include "commands/Commands.hpp"
 #include "output/Json.hpp"
 #include "output/Message.hpp"
+#include "output/Text.hpp"
 #include "readings/LifetimeField.hpp"
+#include "readings/UsageError.hpp"
 
 namespace fuelgauge {
 namespace {
@@ -22,6 +24,14 @@ struct GetOptions {
   bool json = false;
 };
 
+std::string Names() {
+  std::string names;
+  for (const Property& property : Properties) {
+    names.append(names.empty() ? "" : ", ").append(property.name);
+  }
+  return names;
+}
+
 // Prints the bare value, for scripts.
 struct PrintBare {
   void operator()(bool flag) const { std::cout << (flag ? "true" : "false") << "\n"; }
@@ -30,15 +40,19 @@ struct PrintBare {
       std::cout << field.name << " " << field.Value(data) << "\n";
     }
   }
+  void operator()(const std::string& text) const { std::cout << TerminalSafe(text) << "\n"; }
   template <typename T>
-  void operator()(const T& value) const {
-    std::cout << value << "\n";
+  void operator()(T number) const {
+    std::cout << number << "\n";
   }
 };
 
 ExitStatus Get(const Gauge& gauge, const GetOptions& options) {
   const Property& property = FindProperty(options.property);
   const Type type = options.type.empty() ? property.type : Types.at(options.type);
+  if (property.id == dral::FuelGaugeProperty::LifetimeDataResetValue && type != property.type) {
+    throw UsageError("--as: it has no file: LifetimeDataResetValue is read as lifetime alone");
+  }
   const Reading reading = gauge.Read(property, type);
   if (options.json) {
     Print({{options.property, ToJson(reading)}});
@@ -46,7 +60,7 @@ ExitStatus Get(const Gauge& gauge, const GetOptions& options) {
     std::visit(PrintBare{}, reading.value);
   }
   if (!reading.Succeeded()) {
-    Complain(options.property + ": " + gauge.ExplainRead(property, type, reading.status));
+    Complain(options.property + ": " + reading.Reason());
   }
   return ToExitStatus(reading.status);
 }
@@ -55,8 +69,7 @@ ExitStatus Get(const Gauge& gauge, const GetOptions& options) {
 
 Action AddGet(CLI::App& parser) {
   const auto options = std::make_shared<GetOptions>();
-  parser.add_option("PROPERTY", options->property, "One of the names that 'list' shows")
-      ->required();
+  parser.add_option("PROPERTY", options->property, "One of " + Names())->required();
   parser.add_option("--as", options->type, "Read it as string, int, uint, bool or lifetime")
       ->type_name("TYPE")
       ->check(CLI::IsMember(Types).description(""));

@@ -10,14 +10,13 @@ namespace fuelgauge {
 namespace {
 
 // What is worth saying beside a value: the raw number where people use another unit.
-std::string Remark(const Gauge& gauge, const Reading& reading) {
-  const Property& property = *reading.property;
+std::string Remark(const Reading& reading) {
   if (!reading.Succeeded()) {
-    return gauge.ExplainRead(property, property.type, reading.status);
+    return reading.Reason();
   }
   const auto number = reading.Number();
-  const bool converted = property.unit != Unit::None && property.unit != Unit::Percent;
-  return number && converted ? Raw(*number, property.unit) : "";
+  const Unit unit = reading.property->unit;
+  return number && unit != Unit::None && unit != Unit::Percent ? Raw(*number, unit) : "";
 }
 
 ExitStatus List(const Gauge& gauge, bool json) {
@@ -26,14 +25,14 @@ ExitStatus List(const Gauge& gauge, bool json) {
     Print(ToJson(readings));
   } else {
     for (const Reading& reading : readings) {
-      PrintRow(reading.property->name, reading.ForPeople(), Remark(gauge, reading));
+      PrintRow(reading.property->name, reading.ForPeople(), Remark(reading));
       if (const auto* record = reading.Record()) {
         PrintFields(*record);
       }
     }
   }
   if (!readings.AnySucceeded()) {
-    Complain(NoGauge);
+    Complain(gauge.Missing(readings));
     return ToExitStatus(readings.begin()->status);
   }
   return ExitStatus::Success;

@@ -12,7 +12,7 @@ namespace fuelgauge {
 namespace {
 
 ExitStatus Metrics(const Gauge& gauge, const std::optional<std::string>& output) {
-  const std::string text = MetricsOf(gauge.ReadAllWithCauses());
+  const std::string text = MetricsOf(gauge.ReadAll());
   if (!output) {
     std::cout << text;
     return ExitStatus::Success;

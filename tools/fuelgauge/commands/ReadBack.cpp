@@ -9,18 +9,19 @@ namespace fuelgauge {
 
 using dral::FuelGaugeStatus;
 
-ExitStatus Refused(const Property& property, FuelGaugeStatus status) {
-  const std::string_view reason = status == FuelGaugeStatus::FileError
-                                      ? "no such file, or no right to write it"
-                                      : "it is read-only";
-  Complain(std::string(property.name) + ": not written: " + std::string(reason));
+ExitStatus Refused(const Gauge& gauge, const Property& property, FuelGaugeStatus status) {
+  std::string reason = "it is read-only";
+  if (status == FuelGaugeStatus::FileError) {
+    const Reading reading = gauge.Read(property);
+    reason = reading.status == status ? reading.Reason() : "no permission to write it";
+  }
+  Complain(std::string(property.name) + ": not written: " + reason);
   return ToExitStatus(status);
 }
 
-ExitStatus Unreadable(const Gauge& gauge, const Reading& reading, std::string_view consequence) {
-  const Property& property = *reading.property;
-  Complain(std::string(property.name) + ": " +
-           gauge.ExplainRead(property, property.type, reading.status) + std::string(consequence));
+ExitStatus Unreadable(const Reading& reading, std::string_view consequence) {
+  Complain(std::string(reading.property->name) + ": " + reading.Reason() +
+           std::string(consequence));
   return ToExitStatus(reading.status);
 }
 
@@ -28,7 +29,7 @@ ExitStatus ReadBack(const Gauge& gauge, const Property& property,
                     const dral::LifetimeData& written) {
   const Reading reading = gauge.Read(property);
   if (reading.Record() == nullptr) {
-    return Unreadable(gauge, reading, "; whether the write was taken is not known");
+    return Unreadable(reading, "; whether the write was taken is not known");
   }
   const dral::LifetimeData& held = *reading.Record();
   std::string differences;

@@ -7,10 +7,10 @@
 namespace fuelgauge {
 
 /// Says why a write or a reset of @p property was refused.
-ExitStatus Refused(const Property& property, dral::FuelGaugeStatus status);
+ExitStatus Refused(const Gauge& gauge, const Property& property, dral::FuelGaugeStatus status);
 
 /// Says why @p reading failed, and what follows from it.
-ExitStatus Unreadable(const Gauge& gauge, const Reading& reading, std::string_view consequence);
+ExitStatus Unreadable(const Reading& reading, std::string_view consequence);
 
 /// Compares the record that the gauge holds with the one that was @p written, and says so. The library
 /// cannot tell whether the kernel took a write, since a file's bytes leave it on closing; reading back

@@ -10,7 +10,7 @@ namespace {
 ExitStatus Reset(const Gauge& gauge, const std::string& name) {
   const Property& property = FindProperty(name);
   if (const auto status = gauge->Reset(property.id); status != dral::FuelGaugeStatus::Success) {
-    return Refused(property, status);
+    return Refused(gauge, property, status);
   }
   const auto [status, written] =
       gauge->Get<dral::LifetimeData>(dral::FuelGaugeProperty::LifetimeDataResetValue);

@@ -20,7 +20,7 @@ struct SetOptions {
 ExitStatus Set(const Gauge& gauge, const SetOptions& options) {
   const Property& property = FindProperty(options.property);
   if (property.type != Type::Lifetime) {
-    return Refused(property, gauge->Set(property.id, options.values.front()));
+    return Refused(gauge, property, gauge->Set(property.id, options.values.front()));
   }
   dral::LifetimeData record;
   std::set<std::string> fields;
@@ -32,7 +32,7 @@ ExitStatus Set(const Gauge& gauge, const SetOptions& options) {
   }
   const Reading held = gauge.Read(property);
   if (held.Record() == nullptr) {
-    return Unreadable(gauge, held, "; nothing was written");
+    return Unreadable(held, "; nothing was written");
   }
   record = *held.Record();
   for (const std::string& value : options.values) {
@@ -40,7 +40,7 @@ ExitStatus Set(const Gauge& gauge, const SetOptions& options) {
   }
   if (const FuelGaugeStatus written = gauge->Set(property.id, record);
       written != FuelGaugeStatus::Success) {
-    return Refused(property, written);
+    return Refused(gauge, property, written);
   }
   return ReadBack(gauge, property, record);
 }

@@ -17,6 +17,7 @@
 #include "output/Json.hpp"
 #include "output/Message.hpp"
 #include "output/Screen.hpp"
+#include "output/Text.hpp"
 #include "output/Timestamp.hpp"
 
 using dral::FuelGaugeProperty;
@@ -56,7 +57,7 @@ void PrintLine(const std::string& time, const Readings& readings) {
   for (const auto id :
        {FuelGaugeProperty::Status, FuelGaugeProperty::StateOfCharge, FuelGaugeProperty::VoltageNow,
         FuelGaugeProperty::CurrentNow, FuelGaugeProperty::Temperature}) {
-    std::cout << "  " << readings[id].ForPeople();
+    std::cout << "  " << TerminalSafe(readings[id].ForPeople());
   }
   std::cout << "\n";
 }
@@ -83,12 +84,13 @@ bool DrawsInPlace() {
 class Presence {
  public:
   /// @return whether something was told
-  bool Tell(bool nowThere, const std::string& time) {
+  bool Tell(const Gauge& gauge, const Readings& readings, const std::string& time) {
+    const bool nowThere = readings.AnySucceeded();
     const bool changed = nowThere != there;
     if (changed && nowThere) {
       Complain("gauge found at " + time);
     } else if (changed) {
-      Complain(lastSeen.empty() ? NoGauge : "no gauge: nothing could be read since " + lastSeen);
+      Complain(gauge.Missing(readings) + (lastSeen.empty() ? "" : "; last read at " + lastSeen));
     }
     there = nowThere;
     lastSeen = nowThere ? time : lastSeen;
@@ -139,15 +141,14 @@ ExitStatus Watch(const Gauge& gauge, const WatchOptions& options) {
   for (std::uint64_t taken = 1;; ++taken) {
     const std::string time = Timestamp(Now());
     const Readings readings = gauge.ReadAll();
-    const bool there = readings.AnySucceeded();
-    if (presence.Tell(there, time) && screen) {
+    if (presence.Tell(gauge, readings, time) && screen) {
       screen->Leave();
     }
     const ExitStatus status = presence.Ever() ? ExitStatus::Success : ExitStatus::FileError;
     WatchSignals::EndWith(status);
     if (screen) {
       screen->Draw(time, readings);
-    } else if (there) {
+    } else if (readings.AnySucceeded()) {
       PrintSample(options, time, readings);
     }
     next = std::max(next + interval, steady_clock::now());  // a slow gauge is not hurried after

@@ -3,14 +3,17 @@
 
 #include <iostream>
 
+#include "output/Text.hpp"
+
 namespace fuelgauge {
 
 std::string CsvField(std::string_view text) {
-  if (text.find_first_of(",\"\r\n") == std::string::npos) {
-    return std::string(text);
+  const std::string safe = TerminalSafe(text);
+  if (safe.find_first_of(",\"") == std::string::npos) {
+    return safe;
   }
   std::string field = "\"";
-  for (const char byte : text) {
+  for (const char byte : safe) {
     field.append(byte == '"' ? 2 : 1, byte);
   }
   return field.append("\"");
@@ -33,7 +36,9 @@ void PrintCsvLine(const std::string& time, const Readings& readings) {
       continue;
     }
     std::cout << ",";
-    if (const auto number = reading.Number()) {
+    if (const bool* flag = std::get_if<bool>(&reading.value)) {
+      std::cout << (!reading.Succeeded() ? "" : *flag ? "true" : "false");
+    } else if (const auto number = reading.Number()) {
       std::cout << *number;
     } else if (const auto text = reading.Text()) {
       std::cout << CsvField(*text);

@@ -8,7 +8,8 @@
 
 namespace fuelgauge {
 
-/// @return @p text as a field of a CSV line, in quotes where it needs them
+/// @return @p text as a field of a CSV line: UTF-8 without control characters, in quotes where it needs
+///         them
 std::string CsvField(std::string_view text);
 
 /// Prints the names of the properties that are numbers or texts, behind "time".

@@ -2,8 +2,10 @@
 #include "output/Json.hpp"
 
 #include <iostream>
+#include <sstream>
 #include <variant>
 
+#include "output/Text.hpp"
 #include "readings/LifetimeField.hpp"
 
 namespace fuelgauge {
@@ -45,6 +47,8 @@ Json ToJson(const Reading& reading) {
   Json answer = {{"status", StatusName(reading.status)}, {"value", nullptr}};
   if (reading.Succeeded()) {
     answer["value"] = std::visit([](const auto& held) { return ValueToJson(held); }, reading.value);
+  } else {
+    answer["reason"] = reading.Reason();
   }
   return answer;
 }
@@ -58,11 +62,14 @@ Json ToJson(const Readings& readings) {
 }
 
 void Print(const Json& json) {
-  std::cout << json.dump(2, ' ', false, Json::error_handler_t::replace) << "\n";
+  std::istringstream lines(json.dump(2, ' ', false, Json::error_handler_t::replace));
+  for (std::string line; std::getline(lines, line);) {
+    std::cout << TerminalSafe(line) << "\n";  // JSON itself escapes controls, but for those of C1
+  }
 }
 
 void PrintCompact(const Json& json) {
-  std::cout << json.dump(-1, ' ', false, Json::error_handler_t::replace) << "\n";
+  std::cout << TerminalSafe(json.dump(-1, ' ', false, Json::error_handler_t::replace)) << "\n";
 }
 
 }  // namespace fuelgauge

@@ -15,7 +15,8 @@ using Json = nlohmann::ordered_json;
 /// @return the enumerator's name
 std::string_view StatusName(dral::FuelGaugeStatus status);
 
-/// @return `{"status": …, "value": …}`; the value is null unless the status is Success
+/// @return `{"status": …, "value": …}`; unless the status is Success the value is null, and there is
+///         a "reason"
 Json ToJson(const Reading& reading);
 
 /// @return an object with a member for each reading

@@ -3,10 +3,12 @@
 
 #include <iostream>
 
+#include "output/Text.hpp"
+
 namespace fuelgauge {
 
 void Complain(std::string_view text) {
-  std::cerr << "fuelgauge: " << text << "\n";
+  std::cerr << "fuelgauge: " << TerminalSafe(text) << "\n";
 }
 
 }  // namespace fuelgauge

@@ -5,10 +5,7 @@
 
 namespace fuelgauge {
 
-/// What to say when not one property could be read.
-constexpr auto NoGauge = "no property could be read: is there a gauge, and is its driver loaded?";
-
-/// Prints "fuelgauge: @p text" to standard error.
+/// Prints "fuelgauge: @p text" to standard error, on one line and fit for a terminal.
 void Complain(std::string_view text);
 
 }  // namespace fuelgauge

@@ -6,6 +6,7 @@
 #include <cstdint>
 
 #include "output/MetricsText.hpp"
+#include "readings/Words.hpp"
 
 namespace fuelgauge {
 
@@ -55,11 +56,11 @@ const std::array<StateMetric, 3> StateMetrics = {{
     {FuelGaugeProperty::Status,
      "status",
      "Charging status: 1 for the state that is.",
-     {"Unknown", "Charging", "Discharging", "Not charging", "Full"}},
+     {StatusWords.begin(), StatusWords.end()}},
     {FuelGaugeProperty::ChargeLevel,
      "charge_level",
      "Charge level: 1 for the level that is.",
-     {"Unknown", "Critical", "Low", "Normal", "High", "Full"}},
+     {LevelWords.begin(), LevelWords.end()}},
     {FuelGaugeProperty::Health,
      "health",
      "Battery health: 1 for the state that is.",

@@ -10,14 +10,11 @@ namespace fuelgauge {
 
 namespace {
 
-// A label's value. What is not UTF-8 is replaced, as the format asks for UTF-8.
 std::string Quoted(const std::string& value) {
   std::string quoted = "\"";
-  for (const char byte : ToUtf8(value)) {
+  for (const char byte : TerminalSafe(value)) {
     if (byte == '\\' || byte == '"') {
       quoted.append(1, '\\').append(1, byte);
-    } else if (byte == '\n') {
-      quoted.append("\\n");
     } else {
       quoted.append(1, byte);
     }

@@ -10,7 +10,7 @@ namespace fuelgauge {
 /// @return @p text with blanks after it, up to @p width columns
 std::string PadTo(std::size_t width, std::string text);
 
-/// @return one row of a table: a name, a value and what is worth saying beside it
+/// @return one row of a table, fit for a terminal: a name, a value and what is worth saying beside it
 std::string Row(std::string_view name, std::string_view value, std::string_view remark);
 
 /// Prints such a row.

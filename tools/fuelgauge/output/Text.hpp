@@ -6,10 +6,9 @@
 
 namespace fuelgauge {
 
-/// @return @p text fit for a message: cut when it is long, and without control characters
-std::string Printable(std::string_view text);
-
-/// @return @p text with every byte that is not UTF-8 replaced
-std::string ToUtf8(const std::string& text);
+/// @return @p text as UTF-8 without control characters, those of C1 included: bytes that are not UTF-8
+///         are replaced by U+FFFD, control characters by escapes such as "\u001b". No text of a device
+///         or of a user can then steer a terminal.
+std::string TerminalSafe(std::string_view text);
 
 }  // namespace fuelgauge

@@ -2,12 +2,16 @@
 #pragma once
 
 #include <FuelGaugeIF.hpp>
+#include <PropertyInfo.hpp>
 #include <memory>
 #include <string>
 
 #include "readings/Readings.hpp"
 
 namespace fuelgauge {
+
+/// The folder of the device's own gauge.
+constexpr auto DefaultFolder = "/sys/class/power_supply/bq27542-0";
 
 /// Which gauge, as the command line names it.
 struct GaugeOptions {
@@ -24,20 +28,19 @@ class Gauge {
 
   dral::FuelGaugeIF* operator->() const { return gauge.get(); }
 
+  /// Reads @p property as its natural type, or as @p type.
   Reading Read(const Property& property) const { return Read(property, property.type); }
   Reading Read(const Property& property, Type type) const;
 
+  /// Reads the sixteen properties that have a file.
   Readings ReadAll() const;
 
-  /// The same, but a number that failed, for which there is the status Failure alone, is asked once
-  /// more as text: the reading then has that status, and tells a missing file from one without data.
-  Readings ReadAllWithCauses() const;
-
-  /// @return why reading @p property as @p type ended with @p status, in words for people; to know,
-  ///         it may read the property again
-  std::string ExplainRead(const Property& property, Type type, dral::FuelGaugeStatus status) const;
+  /// @return what to say when not one of @p readings succeeded
+  std::string Missing(const Readings& readings) const;
 
  private:
+  std::string folder;
+  std::unique_ptr<dral::PropertyMap> files;
   std::unique_ptr<dral::FuelGaugeIF> gauge;
 };
 

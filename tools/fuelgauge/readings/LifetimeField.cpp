@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "readings/LifetimeField.hpp"
 
-#include <algorithm>
 #include <charconv>
-#include <limits>
 #include <string>
 #include <system_error>
+#include <type_traits>
 
 #include "readings/UsageError.hpp"
 
@@ -14,65 +13,61 @@ namespace fuelgauge {
 using dral::LifetimeData;
 
 const std::array<LifetimeField, 6> LifetimeFields = {{
-    {"maxTemp", Unit::TenthDegreeCelsius, &LifetimeData::maxTemp},
-    {"minTemp", Unit::TenthDegreeCelsius, &LifetimeData::minTemp},
-    {"maxPackVoltage", Unit::Millivolt, &LifetimeData::maxPackVoltage},
-    {"minPackVoltage", Unit::Millivolt, &LifetimeData::minPackVoltage},
-    {"maxChargeCurrent", Unit::Milliampere, &LifetimeData::maxChargeCurrent},
-    {"maxDischargeCurrent", Unit::Milliampere, &LifetimeData::maxDischargeCurrent},
+    {"maxTemp", Unit::TenthDegreeCelsius, &LifetimeData::maxTemp, LifetimeData::LifetimeMinTemp,
+     LifetimeData::LifetimeMaxTemp},
+    {"minTemp", Unit::TenthDegreeCelsius, &LifetimeData::minTemp, LifetimeData::LifetimeMinTemp,
+     LifetimeData::LifetimeMaxTemp},
+    {"maxPackVoltage", Unit::Millivolt, &LifetimeData::maxPackVoltage, 0, 0x7FFF},
+    {"minPackVoltage", Unit::Millivolt, &LifetimeData::minPackVoltage, 0, 0x7FFF},
+    {"maxChargeCurrent", Unit::Milliampere, &LifetimeData::maxChargeCurrent,
+     LifetimeData::LifetimeMinCurrent, LifetimeData::LifetimeMaxCurrent},
+    {"maxDischargeCurrent", Unit::Milliampere, &LifetimeData::maxDischargeCurrent,
+     LifetimeData::LifetimeMinCurrent, LifetimeData::LifetimeMaxCurrent},
 }};
 
 int LifetimeField::Value(const LifetimeData& data) const {
   return std::visit([&data](auto pointer) { return int{data.*pointer}; }, member);
 }
 
-namespace {
-
-[[noreturn]] void Refuse(std::string_view assignment, const std::string& reason) {
-  throw UsageError("'" + std::string(assignment) + "': " + reason);
+void LifetimeField::Store(LifetimeData& data, int value) const {
+  std::visit(
+      [&data, value](auto pointer) {
+        data.*pointer = static_cast<std::remove_reference_t<decltype(data.*pointer)>>(value);
+      },
+      member);
 }
 
-template <typename T>
-void AssignTo(T& field, std::string_view value, std::string_view assignment) {
-  const char* const end = value.data() + value.size();
-  const auto result = std::from_chars(value.data(), end, field);
-  // Too large comes first: such a number has all its digits read.
-  if (result.ec == std::errc::result_out_of_range) {
-    using Limits = std::numeric_limits<T>;
-    Refuse(assignment, "the value must be from " + std::to_string(Limits::min()) + " to " +
-                           std::to_string(Limits::max()));
+int LifetimeField::Parse(std::string_view text) const {
+  int value = 0;
+  const char* const end = text.data() + text.size();
+  const auto result = std::from_chars(text.data(), end, value);
+  if (result.ec != std::errc() || result.ptr != end || !Allows(value)) {
+    throw UsageError(std::string(name) + ": '" + std::string(text) +
+                     "' is not a whole number from " + std::to_string(least) + " to " +
+                     std::to_string(most));
   }
-  if (result.ec != std::errc() || result.ptr != end) {
-    Refuse(assignment,
-           "'" + std::string(value) + "' is not a whole number that the field can hold");
-  }
+  return value;
 }
 
-}  // namespace
+const LifetimeField& FindField(std::string_view name) {
+  std::string names;
+  for (const LifetimeField& field : LifetimeFields) {
+    if (field.name == name) {
+      return field;
+    }
+    names.append(names.empty() ? "" : ", ").append(field.name);
+  }
+  throw UsageError("no field named '" + std::string(name) + "'; the fields are " + names);
+}
 
 void Assign(LifetimeData& data, std::string_view assignment) {
   const std::size_t equals = assignment.find('=');
   if (equals == std::string_view::npos) {
-    Refuse(assignment, "write it as FIELD=VALUE, such as maxTemp=550");
+    throw UsageError("'" + std::string(assignment) +
+                     "': write it as FIELD=VALUE, such as maxTemp=550");
   }
-  const std::string_view name = assignment.substr(0, equals);
-  const auto* const field =
-      std::find_if(LifetimeFields.begin(), LifetimeFields.end(),
-                   [name](const LifetimeField& candidate) { return candidate.name == name; });
-  if (field == LifetimeFields.end()) {
-    std::string names;
-    for (const LifetimeField& each : LifetimeFields) {
-      names.append(names.empty() ? "" : ", ").append(each.name);
-    }
-    Refuse(assignment, "no field named '" + std::string(name) + "'; the fields are " + names);
-  }
-  std::visit(
-      [&](auto pointer) {
-        auto value = data.*pointer;
-        AssignTo(value, assignment.substr(equals + 1), assignment);
-        data.*pointer = value;
-      },
-      field->member);
+  const LifetimeField& field = FindField(assignment.substr(0, equals));
+  field.Store(data, field.Parse(assignment.substr(equals + 1)));
 }
 
 }  // namespace fuelgauge

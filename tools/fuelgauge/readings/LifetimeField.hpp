@@ -17,11 +17,23 @@ struct LifetimeField {
   Unit unit;
   std::variant<std::int16_t dral::LifetimeData::*, std::uint16_t dral::LifetimeData::*> member;
 
+  int least;  ///< what a record may hold, by the library's `LifetimeData::Validate`
+  int most;
+
   int Value(const dral::LifetimeData& data) const;
+  void Store(dral::LifetimeData& data, int value) const;
+  bool Allows(int value) const { return least <= value && value <= most; }
+
+  /// @return the number that @p text is, digits alone
+  /// @throws UsageError when it is none, or one that the field does not allow
+  int Parse(std::string_view text) const;
 };
 
 /// In the record's order.
 extern const std::array<LifetimeField, 6> LifetimeFields;
+
+/// @throws UsageError when there is none of that name
+const LifetimeField& FindField(std::string_view name);
 
 /// Carries out one "FIELD=VALUE" on @p data.
 /// @throws UsageError naming what is wrong; @p data is then unchanged

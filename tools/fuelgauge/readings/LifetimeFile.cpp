@@ -3,11 +3,11 @@
 
 #include <sys/stat.h>
 
-#include <LifetimeDataParser.hpp>
 #include <fstream>
 #include <set>
-#include <stdexcept>
+#include <string>
 
+#include "readings/LifetimeField.hpp"
 #include "readings/UsageError.hpp"
 
 namespace fuelgauge {
@@ -26,19 +26,18 @@ void CheckLifetimeFile(const std::string& path) {
     refuse("it cannot be opened");
   }
   std::set<std::string> fields;
-  for (dral::LifetimeDataParser::kv_pair pair; file >> pair;) {
-    const auto field = dral::LifetimeDataParser::mapping.find(pair.key);
-    if (field == dral::LifetimeDataParser::mapping.end()) {
-      refuse("no field named '" + pair.key + "'");
-    }
-    if (!fields.insert(pair.key).second) {
-      continue;  // the first one counts
-    }
+  for (std::string name, value; file >> name;) {
     try {
-      dral::LifetimeData scratch;
-      field->second(pair.value, scratch);
-    } catch (const std::logic_error&) {
-      refuse(pair.key + " is '" + pair.value + "', which is not a number that fits");
+      const LifetimeField& field = FindField(name);
+      if (!fields.insert(name).second) {
+        throw UsageError(name + ": the field is named twice");
+      }
+      if (!(file >> value)) {
+        throw UsageError(name + ": there is no value");
+      }
+      field.Parse(value);
+    } catch (const UsageError& error) {
+      refuse(error.what());
     }
   }
   if (file.bad()) {

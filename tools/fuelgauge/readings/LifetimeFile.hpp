@@ -5,8 +5,8 @@
 
 namespace fuelgauge {
 
-/// Judges a lifetime override file before the library reads it: the library ignores what it cannot
-/// read and what it does not know, and says so in its log alone.
+/// Judges a lifetime override file before the library reads it: the library ignores, cuts or replaces
+/// what it cannot use, and says so in its log alone. Here each value arrives as written, or none does.
 /// @throws UsageError when @p path cannot be read, or naming its bad entry
 void CheckLifetimeFile(const std::string& path);
 

@@ -27,23 +27,24 @@ dral::PropertyValue Hint(Type type) {
 }
 
 const std::array<Property, 17> Properties = {{
-    {Id::Name, "Name", Type::String, Unit::None},
-    {Id::Technology, "Technology", Type::String, Unit::None},
-    {Id::Status, "Status", Type::String, Unit::None},
-    {Id::Present, "Present", Type::Bool, Unit::None},
-    {Id::VoltageNow, "VoltageNow", Type::Int, Unit::Microvolt},
-    {Id::CurrentNow, "CurrentNow", Type::Int, Unit::Microampere},
-    {Id::StateOfCharge, "StateOfCharge", Type::Int, Unit::Percent},
-    {Id::ChargeLevel, "ChargeLevel", Type::String, Unit::None},
-    {Id::Temperature, "Temperature", Type::Int, Unit::TenthDegreeCelsius},
-    {Id::NominalAvailableCapacity, "NominalAvailableCapacity", Type::Int, Unit::MicroampereHour},
-    {Id::FullChargeCapacity, "FullChargeCapacity", Type::Int, Unit::MicroampereHour},
-    {Id::CycleCount, "CycleCount", Type::Int, Unit::None},
-    {Id::PowerAverage, "PowerAverage", Type::Int, Unit::Microwatt},
-    {Id::Health, "Health", Type::String, Unit::None},
-    {Id::TimeToEmpty, "TimeToEmpty", Type::Int, Unit::Second},
-    {Id::LifetimeData, "LifetimeData", Type::Lifetime, Unit::None},
-    {Id::LifetimeDataResetValue, "LifetimeDataResetValue", Type::Lifetime, Unit::None},
+    {Id::Name, "Name", Type::String, Unit::None, true},
+    {Id::Technology, "Technology", Type::String, Unit::None, false},
+    {Id::Status, "Status", Type::String, Unit::None, false},
+    {Id::Present, "Present", Type::Bool, Unit::None, false},
+    {Id::VoltageNow, "VoltageNow", Type::Int, Unit::Microvolt, false},
+    {Id::CurrentNow, "CurrentNow", Type::Int, Unit::Microampere, false},
+    {Id::StateOfCharge, "StateOfCharge", Type::Int, Unit::Percent, false},
+    {Id::ChargeLevel, "ChargeLevel", Type::String, Unit::None, true},
+    {Id::Temperature, "Temperature", Type::Int, Unit::TenthDegreeCelsius, false},
+    {Id::NominalAvailableCapacity, "NominalAvailableCapacity", Type::Int, Unit::MicroampereHour,
+     true},
+    {Id::FullChargeCapacity, "FullChargeCapacity", Type::Int, Unit::MicroampereHour, true},
+    {Id::CycleCount, "CycleCount", Type::Int, Unit::None, true},
+    {Id::PowerAverage, "PowerAverage", Type::Int, Unit::Microwatt, true},
+    {Id::Health, "Health", Type::String, Unit::None, true},
+    {Id::TimeToEmpty, "TimeToEmpty", Type::Int, Unit::Second, true},
+    {Id::LifetimeData, "LifetimeData", Type::Lifetime, Unit::None, true},
+    {Id::LifetimeDataResetValue, "LifetimeDataResetValue", Type::Lifetime, Unit::None, false},
 }};
 
 const Property& FindProperty(std::string_view name) {
@@ -52,7 +53,7 @@ const Property& FindProperty(std::string_view name) {
                    [name](const Property& property) { return property.name == name; });
   if (found == Properties.end()) {
     throw UsageError("no property named '" + std::string(name) +
-                     "'; 'fuelgauge list' shows them all");
+                     "'; 'fuelgauge get --help' lists them");
   }
   return *found;
 }

@@ -10,18 +10,19 @@
 
 namespace fuelgauge {
 
-/// The alternatives of `dral::PropertyValue`.
+/// The alternatives of `dral::PropertyValue`, in their order.
 enum class Type { String, Int, Uint, Bool, Lifetime };
 
 /// @return a value of @p type, to ask the library for one
 dral::PropertyValue Hint(Type type);
 
-/// What the tool knows of a property: its name, its natural type and its unit.
+/// What the tool knows of a property.
 struct Property {
   dral::FuelGaugeProperty id;
   std::string_view name;
-  Type type;
+  Type type;  ///< its natural one
   Unit unit;
+  bool optional;  ///< a driver of a gauge in order may not offer its file
 };
 
 /// All of them in the order of their numbers; the last, the reset value, has no file.

@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 
+#include "readings/Cause.hpp"
 #include "readings/Property.hpp"
 
 namespace fuelgauge {
@@ -16,6 +17,7 @@ struct Reading {
   const Property* property;
   dral::FuelGaugeStatus status;
   dral::PropertyValue value;
+  Cause cause = {};  ///< when it was not read
 
   bool Succeeded() const { return status == dral::FuelGaugeStatus::Success; }
 
@@ -31,6 +33,13 @@ struct Reading {
   /// @return the value as people say it, such as "3.786 V", "yes" or "Full"; "-" when it was not
   ///         read, nothing for the record
   std::string ForPeople() const;
+
+  /// @return why it was not read, in words for people
+  std::string Reason() const;
+
+  /// @return whether a gauge in order may fail to give this: a file that its driver may lack, or an
+  ///         estimate of the time to empty
+  bool MayBeMissing() const;
 };
 
 }  // namespace fuelgauge

@@ -1,170 +1,125 @@
 // SPDX-License-Identifier: MIT
 #include "readings/Rules.hpp"
 
-#include <algorithm>
-#include <cstdlib>
+#include "readings/Conditions.hpp"
 
 namespace fuelgauge {
 
 using enum dral::FuelGaugeProperty;
+using enum Severity;
 
 namespace {
 
-// The number, or one that breaks no rule when it was not read.
-int NumberOr(const Readings& readings, dral::FuelGaugeProperty id, int otherwise) {
-  return readings.Number(id).value_or(otherwise);
+using Id = dral::FuelGaugeProperty;
+using Find = std::function<Evidence(const Readings&)>;
+
+// Shows @p properties when @p broken.
+Find When(std::vector<Id> properties, bool (*broken)(const Readings&)) {
+  return [properties, broken](const Readings& readings) {
+    return broken(readings) ? Evidence{properties, {}} : Evidence{};
+  };
 }
 
-bool Says(const Readings& readings, dral::FuelGaugeProperty id, std::string_view word) {
-  return readings.Text(id) == word;
+// Shows those of all readings that are @p broken.
+Find Each(bool (*broken)(const Reading&)) {
+  return [broken](const Readings& readings) {
+    Evidence evidence;
+    for (const Reading& reading : readings) {
+      if (broken(reading)) {
+        evidence.properties.push_back(reading.property->id);
+      }
+    }
+    return evidence;
+  };
 }
 
-bool AllOnes(const Readings& readings) {
-  return NumberOr(readings, StateOfCharge, 0) == 65535 ||
-         NumberOr(readings, CycleCount, 0) == 65535 ||
-         NumberOr(readings, VoltageNow, 0) == 65535000;
+// Shows a number that was read and is not from @p least to @p most.
+Find Outside(Id id, int least, int most) {
+  return [id, least, most](const Readings& readings) {
+    const auto number = readings.Number(id);
+    return number && (*number < least || *number > most) ? Evidence{{id}, {}} : Evidence{};
+  };
 }
 
-// A temperature register of 0 kelvin shows as -2731.
-bool AllZero(const Readings& readings) {
-  return NumberOr(readings, Temperature, 0) == -2731 || NumberOr(readings, VoltageNow, 1) == 0;
-}
-
-// Some milliamperes are what an idle gauge measures.
-bool WrongSign(const Readings& readings) {
-  const int current = NumberOr(readings, CurrentNow, 0);
-  return (current < -10000 && Says(readings, Status, "Charging")) ||
-         (current > 10000 && Says(readings, Status, "Discharging"));
-}
-
-// The two differ by up to a dozen points on healthy gauges: only one charge is compensated for load.
-bool ChargesDisagree(const Readings& readings) {
-  const double full = NumberOr(readings, FullChargeCapacity, 0);
-  const double now = NumberOr(readings, NominalAvailableCapacity, -1);
-  const int percent = NumberOr(readings, StateOfCharge, -1);
-  return full > 0 && now >= 0 && percent >= 0 && std::abs(100 * now / full - percent) > 25;
-}
-
-// By magnitude: older chips give the power another sign than the current. Below a tenth of a watt the
-// register, which may count in 10 mW, is too coarse to judge; and a mean lags behind what is now.
-bool PowerFarOff(const Readings& readings) {
-  const double now =
-      std::abs(1e-12 * NumberOr(readings, VoltageNow, 0) * NumberOr(readings, CurrentNow, 0));
-  const double mean = std::abs(1e-6 * NumberOr(readings, PowerAverage, 0));
-  return now >= 0.1 && mean >= 0.1 && (mean > 5 * now || now > 5 * mean);
-}
-
-bool RecordCrossed(const Readings& readings) {
-  const auto* record = readings.Record();
-  return record != nullptr &&
-         (record->minTemp > record->maxTemp || record->minPackVoltage > record->maxPackVoltage);
-}
-
-bool RecordInvalid(const Readings& readings) {
-  const auto* record = readings.Record();
-  if (record == nullptr) {
-    return false;
-  }
-  dral::LifetimeData repaired = *record;
-  repaired.Validate();
-  return repaired.ToString() != record->ToString();
-}
-
-bool Unreadable(const Readings& readings) {
-  return std::any_of(readings.begin(), readings.end(), [&](const Reading& reading) {
-    return !reading.Succeeded() && !UnreadIsNormal(reading, readings);
-  });
-}
-
-bool BatteryUnwell(const Readings& readings) {
-  const auto health = readings.Text(Health);
-  return health && *health != "Good" && *health != "Unknown" && *health != "Calibration required";
+// Shows those fields of the record that are @p broken.
+Find Fields(bool (*broken)(const dral::LifetimeData&, const LifetimeField&)) {
+  return [broken](const Readings& readings) {
+    Evidence evidence;
+    const auto* record = readings.Record();
+    for (const LifetimeField& field : LifetimeFields) {
+      if (record != nullptr && broken(*record, field)) {
+        evidence.fields.push_back(&field);
+      }
+    }
+    return evidence;
+  };
 }
 
 }  // namespace
 
-bool UnreadIsNormal(const Reading& reading, const Readings& readings) {
-  const auto status = readings.Text(Status);
-  return reading.status == dral::FuelGaugeStatus::FileError ||
-         (reading.property->id == TimeToEmpty && status && *status != "Discharging");
-}
-
 const std::vector<Rule> Rules = {
     {"all-ones",
-     "error",
+     Error,
      "registers read all ones: nothing answers on the bus",
-     {StateOfCharge, VoltageNow, CycleCount},
-     AllOnes},
+     Each(AllOnes),
+     {"charge-range", "charge-full", "charges-disagree", "full-early", "level", "temperature-range",
+      "voltage-range"}},
     {"all-zero",
-     "error",
+     Error,
      "registers read zero: the chip is not ready, or not there",
-     {VoltageNow, Temperature},
-     AllZero},
-    {"no-battery",
-     "error",
-     "the kernel sees no battery, or its bus is dead",
-     {Present},
-     [](const Readings& readings) { return NumberOr(readings, Present, 1) == 0; }},
+     Each(AllZero),
+     {"charge-full", "charges-disagree", "full-early", "level", "temperature-range",
+      "voltage-range"}},
+    {"no-battery", Error, "the kernel sees no battery, or its bus is dead", Outside(Present, 1, 1)},
+    {"unreadable", Error, "a value that should be there cannot be read", Each(Missing)},
+    {"voltage-range", Error, "a single cell has from 2 to 5 V",
+     Outside(VoltageNow, 2000000, 5000000)},
     {"charge-range",
-     "error",
+     Error,
      "a charge is from 0 to 100 %: a register was misread",
-     {StateOfCharge},
-     [](const Readings& readings) {
-       const int percent = NumberOr(readings, StateOfCharge, 0);
-       return percent < 0 || percent > 100;
-     }},
-    {"below-absolute-zero",
-     "error",
-     "no temperature is below -273.1 °C",
-     {Temperature},
-     [](const Readings& readings) { return NumberOr(readings, Temperature, 0) < -2731; }},
-    {"temperature-range",
-     "error",
-     "the gauge measures from -60 to 140 °C: its sensor is broken",
-     {Temperature},
-     [](const Readings& readings) {
-       const int tenths = NumberOr(readings, Temperature, 0);
-       return (tenths < dral::LifetimeData::LifetimeMinTemp && tenths > -2731) ||
-              tenths > dral::LifetimeData::LifetimeMaxTemp;
-     }},
-    {"current-sign",
-     "warning",
+     Outside(StateOfCharge, 0, 100),
+     {"charges-disagree", "full-early", "level"}},
+    {"charge-full", Error, "a battery that has a charge in % has a charge when full",
+     When({FullChargeCapacity, StateOfCharge}, FullChargeMissing)},
+    {"temperature-range", Error, "the gauge measures from -60 to 140 °C: its sensor is broken",
+     Outside(Temperature, dral::LifetimeData::LifetimeMinTemp,
+             dral::LifetimeData::LifetimeMaxTemp)},
+    {"negative", Error, "what is counted is not below 0", Each(Negative), {"charges-disagree"}},
+    {"unknown-word", Warning, "the kernel has no such word", Each(UnknownWord), {"health"}},
+    {"current-sign", Warning,
      "the current flows the other way than the status says: some kernels turn the sign",
-     {Status, CurrentNow},
-     WrongSign},
-    {"charges-disagree",
-     "warning",
+     When({Status, CurrentNow}, WrongSign)},
+    {"current-status", Warning,
+     "the battery is being discharged, and the status says that it is not",
+     When({Status, CurrentNow}, DrainsUnseen)},
+    {"full-early", Warning, "the status says full, the charge in % does not",
+     When({Status, StateOfCharge}, FullTooEarly)},
+    {"level", Warning, "the charge level and the charge in % contradict each other",
+     When({ChargeLevel, StateOfCharge}, LevelContradicts)},
+    {"charges-disagree", Warning,
      "the charge in % is far from what the charges say: the gauge wants a learning cycle",
-     {StateOfCharge, NominalAvailableCapacity, FullChargeCapacity},
-     ChargesDisagree},
-    {"power-scale",
-     "warning",
-     "the mean power is far from voltage times current: a load that changes, or a driver that "
-     "counts "
-     "10 mW where the chip counts 1",
-     {PowerAverage, VoltageNow, CurrentNow},
-     PowerFarOff},
-    {"record-crossed",
-     "warning",
-     "a minimum of the lifetime record is above its maximum",
-     {LifetimeData},
-     RecordCrossed},
-    {"record-invalid",
-     "warning",
-     "the lifetime record holds values beyond its limits",
-     {LifetimeData},
-     RecordInvalid},
-    {"unreadable", "error", "a value that should be there cannot be read", {}, Unreadable},
-    {"health",
-     "warning",
-     "the gauge reports that the battery is not well (Dead is also raised by low charge)",
-     {Health},
-     BatteryUnwell},
+     When({StateOfCharge, NominalAvailableCapacity, FullChargeCapacity}, ChargesDisagree)},
+    {"health", Warning, "the gauge reports that the battery is not well",
+     When({Health}, BatteryUnwell)},
+    {"record-crossed", Warning, "a minimum of the lifetime record is above its maximum",
+     Fields(CrossedField)},
+    {"record-invalid", Warning, "the lifetime record holds values beyond its limits",
+     Fields(InvalidField)},
+    {"power-scale", Notice,
+     "the mean power is ten times voltage times current: a load that has just dropped or, when it "
+     "stays so, a driver that counts 10 mW where the chip counts 1",
+     When({PowerAverage, VoltageNow, CurrentNow}, PowerTenfold)},
+    {"power-zero", Notice,
+     "a current flows and the mean power is 0: a load that has just begun or, when it stays so, a "
+     "chip that does not measure it",
+     When({PowerAverage, VoltageNow, CurrentNow}, PowerZero)},
     {"calibration",
-     "notice",
+     Notice,
      "the gauge wants a learning cycle, a full discharge and charge; until then it guesses",
-     {Health},
-     [](const Readings& readings) { return Says(readings, Health, "Calibration required"); }},
+     When({Health}, Uncalibrated),
+     {"charges-disagree"}},
+    {"out-of-comfort", Notice, "the battery is colder or hotter than it likes",
+     When({Health}, OutOfComfort)},
 };
 
 }  // namespace fuelgauge

@@ -1,26 +1,36 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <functional>
 #include <string_view>
 #include <vector>
 
+#include "readings/LifetimeField.hpp"
 #include "readings/Readings.hpp"
 
 namespace fuelgauge {
 
+enum class Severity {
+  Notice,   ///< worth knowing
+  Warning,  ///< values may be wrong, or the battery unwell
+  Error,    ///< values are wrong
+};
+
+/// What breaks a rule; empty when nothing does.
+struct Evidence {
+  std::vector<dral::FuelGaugeProperty> properties;
+  std::vector<const LifetimeField*> fields;  ///< of the lifetime record
+};
+
 /// One thing that must hold of a gauge that makes sense.
 struct Rule {
   std::string_view name;
-  std::string_view
-      severity;             ///< error: the values are wrong; warning: they may be; notice: know it
+  Severity severity;
   std::string_view reason;  ///< what a finding means
-  std::vector<dral::FuelGaugeProperty> properties;  ///< what to show beside it
-  bool (*broken)(const Readings& readings);
+  std::function<Evidence(const Readings& readings)> find;
+  std::vector<std::string_view> silences =
+      {};  ///< rules whose findings would only follow from this
 };
-
-/// @return whether a gauge in order may fail to give this: a file that its driver does not offer, or
-///         the time to empty while it says that it is not discharging
-bool UnreadIsNormal(const Reading& reading, const Readings& readings);
 
 /// All of them. To add one is to add a line.
 extern const std::vector<Rule> Rules;

@@ -14,20 +14,22 @@ TEST(LifetimeField, AssignsWholeNumbersOnly) {
     std::string outcome;  // the field's new value, or a part of the refusal
   };
   const Case cases[] = {
-      {"maxTemp=-32768", "-32768"},
-      {"maxTemp=32768", "'maxTemp=32768': the value must be from -32768 to 32767"},
-      {"maxTemp=-32769", "from -32768 to 32767"},
+      {"maxTemp=-600", "-600"},
+      {"maxTemp=1400", "1400"},
+      {"maxTemp=1401", "maxTemp: '1401' is not a whole number from -600 to 1400"},
+      {"maxTemp=-601", "from -600 to 1400"},
+      {"maxTemp=66086", "from -600 to 1400"},  // whose low 16 bits are 550
       {"maxTemp=", "'' is not a whole number"},
       {"maxTemp=5 ", "'5 ' is not a whole number"},
-      {"maxTemp=+5", "'+5' is not a whole number"},
-      {"maxTemp=1=2", "'1=2' is not a whole number"},
+      {"maxTemp=5.5", "'5.5' is not a whole number"},
+      {"maxTemp=0x10", "'0x10' is not a whole number"},
+      {"maxTemp=99999999999", "'99999999999' is not a whole number"},
       {"maxTemp", "FIELD=VALUE"},
-      {"", "FIELD=VALUE"},
       {"=5", "no field named ''; the fields are maxTemp, minTemp, maxPackVoltage"},
       {"maxtemp=5", "no field named 'maxtemp'"},
-      {"maxPackVoltage=65535", "65535"},
-      {"maxPackVoltage=-1", "not a whole number that the field can hold"},
-      {"minPackVoltage=65536", "from 0 to 65535"},
+      {"maxPackVoltage=32767", "32767"},
+      {"minPackVoltage=32768", "from 0 to 32767"},
+      {"maxDischargeCurrent=-32768", "from -32767 to 32767"},
   };
   for (const Case& each : cases) {
     dral::LifetimeData data{7, 7, 7, 7, 7, 7};

@@ -49,7 +49,8 @@ TEST(MetricsText, LabelsAreEscapedAndUtf8) {
   MetricsText text;
   text.Family("x", "gauge", "X.");
   text.Sample(1, 0, {{"a", "q\"b\\n\nµ"}, {"b", "\xff\xc3(\t"}});
-  EXPECT_TRUE(Holds(text.Text(), "\nfuelgauge_x{a=\"q\\\"b\\\\n\\nµ\",b=\"\uFFFD\uFFFD(\t\"} 1\n"))
+  EXPECT_TRUE(Holds(text.Text(),
+                    "\nfuelgauge_x{a=\"q\\\"b\\\\n\\\\u000aµ\",b=\"\uFFFD\uFFFD(\\\\u0009\"} 1\n"))
       << text.Text();
 }
 

@@ -28,14 +28,14 @@ TEST(Output, PaddingAndCutsCountColumnsNotBytes) {
   EXPECT_EQ(CutTo(3, "▁µ電x"), "▁µ");
 }
 
-TEST(Output, CsvFieldsAreQuotedWhereTheyMustBe) {
-  EXPECT_EQ(CsvField("Not charging"), "Not charging");
-  EXPECT_EQ(CsvField("a,\"b\"\n"), "\"a,\"\"b\"\"\n\"");
-}
-
-TEST(Output, PrintableTextIsCutAndHasNoControlCharacters) {
-  EXPECT_EQ(Printable("a\x1b[2Jb\n\x7f"), "a?[2Jb??");
-  EXPECT_EQ(Printable(std::string(61, 'x')), std::string(60, 'x') + "...");
+TEST(Output, TextCannotSteerATerminal) {
+  EXPECT_EQ(TerminalSafe("Li-ion, 25 °C"), "Li-ion, 25 °C");
+  EXPECT_EQ(TerminalSafe("a\x1b[2J\n\x7f"), "a\\u001b[2J\\u000a\\u007f");
+  EXPECT_EQ(TerminalSafe("\xC2\x9B"
+                         "2J\xC2\x80 \xC2\xA0"),
+            "\\u009b2J\\u0080 \xC2\xA0");
+  EXPECT_EQ(TerminalSafe("\x9B\xC3("), "\uFFFD\uFFFD(");
+  EXPECT_EQ(CsvField("a,\"b\"\n"), "\"a,\"\"b\"\"\\u000a\"");
 }
 
 TEST(Screen, BarsAndSparklinesHoldWhatTheGaugeMaySay) {

@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <FuelGaugeStatus.hpp>
+#include <string>
+
+namespace fuelgauge {
+
+/// Why a value is missing: what the system answers for its file.
+struct Cause {
+  bool opened = false;
+  int error = 0;     ///< the errno of opening or reading it; 0: it was read
+  std::string text;  ///< what was read, which is then not the value asked for
+
+  /// Asks for the file at @p path, now.
+  static Cause Of(const std::string& path);
+
+  /// @return the status of a read that ends so, whatever the type: the library has but one for a number
+  dral::FuelGaugeStatus Status(bool record) const;
+};
+
+/// @return @p error in words and by its name, such as "no such file (ENOENT)"
+std::string ErrorText(int error);
+
+}  // namespace fuelgauge

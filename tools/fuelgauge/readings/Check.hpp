@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <vector>
+
+#include "readings/Rules.hpp"
+
+namespace fuelgauge {
+
+/// A rule that is broken.
+struct Finding {
+  const Rule* rule;
+  Evidence evidence;
+};
+
+/// @return a finding for each rule that @p readings break, but for those that another one silences
+std::vector<Finding> Check(const Readings& readings);
+
+}  // namespace fuelgauge

@@ -8,9 +8,7 @@ set(CMAKE_CXX_EXTENSIONS OFF)
 add_compile_options(
   -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wold-style-cast
   -Wnon-virtual-dtor -Woverloaded-virtual -Wextra-semi -Wundef
-  -Wno-missing-field-initializers # what a designated initialiser leaves out has its default
-  # Log records name a source by its path from the project's root, the same in every build folder.
-  -fmacro-prefix-map=${PROJECT_SOURCE_DIR}/=)
+  -Wno-missing-field-initializers) # what a designated initialiser leaves out has its default
 
 option(KESP_WERROR "Treat warnings as errors" ON)
 if(KESP_WERROR)

@@ -29,15 +29,17 @@ PropertyValue BlankLike(const PropertyValue& hint) {
 Bq27542FuelGauge::Bq27542FuelGauge(std::string_view lifetimeResetPath,
                                    std::unique_ptr<PropertyMap> propertyMap) {
   if (propertyMap) {
-    KESP_LOG(LogProgress) << "Bq27542FuelGauge constructor using passed in property map ";
+    KESP_LOG("Bq27542FuelGauge", LogProgress)
+        << "Bq27542FuelGauge constructor using passed in property map ";
     this->propertyMap = *propertyMap;
   } else {
-    KESP_LOG(LogProgress) << "Bq27542FuelGauge constructor using default property map ";
+    KESP_LOG("Bq27542FuelGauge", LogProgress)
+        << "Bq27542FuelGauge constructor using default property map ";
     this->propertyMap = DefaultPropertyMap();
   }
   if (!lifetimeResetPath.empty()) {
-    KESP_LOG(LogProgress) << "Bq27542FuelGauge constructor overwriting lifetime reset data "
-                          << lifetimeResetPath;
+    KESP_LOG("Bq27542FuelGauge", LogProgress)
+        << "Bq27542FuelGauge constructor overwriting lifetime reset data " << lifetimeResetPath;
     UpdateResetPropertyValues(lifetimeResetPath);
   }
 }
@@ -62,8 +64,9 @@ FuelGaugeStatus Bq27542FuelGauge::DoSet(FuelGaugeProperty property, PropertyValu
     const std::scoped_lock lock(mutex);
     return Writable(property, propertyMap).Set(std::move(value));
   } catch (const std::exception& exception) {
-    KESP_LOG(LogFailure) << "Failed to set property: " << static_cast<std::uint32_t>(property)
-                         << "ex: " << exception.what();
+    KESP_LOG("Bq27542FuelGauge", LogFailure)
+        << "Failed to set property: " << static_cast<std::uint32_t>(property)
+        << "ex: " << exception.what();
     return FuelGaugeStatus::Failure;
   }
 }
@@ -81,8 +84,9 @@ std::pair<FuelGaugeStatus, PropertyValue> Bq27542FuelGauge::DoGet(FuelGaugePrope
     return Readable(property, propertyMap)
         .Get(value.valueless_by_exception() ? value : BlankLike(value));
   } catch (const std::exception& exception) {
-    KESP_LOG(LogFailure) << "Failed to get property: " << static_cast<std::uint32_t>(property)
-                         << "ex: " << exception.what();
+    KESP_LOG("Bq27542FuelGauge", LogFailure)
+        << "Failed to get property: " << static_cast<std::uint32_t>(property)
+        << "ex: " << exception.what();
     return {FuelGaugeStatus::Failure, std::move(value)};
   }
 }
@@ -92,16 +96,17 @@ FuelGaugeStatus Bq27542FuelGauge::DoReset(FuelGaugeProperty property) {
     const std::scoped_lock lock(mutex);
     return Writable(property, propertyMap).Reset();
   } catch (const std::exception& exception) {
-    KESP_LOG(LogFailure) << "Failed to reset property: " << static_cast<std::uint32_t>(property)
-                         << "ex: " << exception.what();
+    KESP_LOG("Bq27542FuelGauge", LogFailure)
+        << "Failed to reset property: " << static_cast<std::uint32_t>(property)
+        << "ex: " << exception.what();
     return FuelGaugeStatus::Failure;
   }
 }
 
 void Bq27542FuelGauge::DumpPropertyMap() const {
   for (const auto& [property, info] : propertyMap) {
-    KESP_LOG(LogFailure) << "Type: " << static_cast<std::uint32_t>(property) << " : " << info
-                         << "\n";
+    KESP_LOG("Bq27542FuelGauge", LogFailure)
+        << "Type: " << static_cast<std::uint32_t>(property) << " : " << info << "\n";
   }
 }
 

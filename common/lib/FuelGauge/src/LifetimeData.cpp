@@ -60,8 +60,8 @@ void LifetimeData::Validate() {
       return;
     }
     field = defaultValue;
-    KESP_LOG(LogRepair) << "LifetimeData::Validate() setting name: " << name
-                        << " to default = " << defaultValue;
+    KESP_LOG("LifetimeData", LogRepair)
+        << "LifetimeData::Validate() setting name: " << name << " to default = " << defaultValue;
   };
   const auto temperature = [](std::int16_t value) {
     return LifetimeMinTemp <= value && value <= LifetimeMaxTemp;

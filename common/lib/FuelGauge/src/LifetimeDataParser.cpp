@@ -53,21 +53,23 @@ LifetimeDataParser::LifetimeDataParser(std::string_view path, const LifetimeData
   file.imbue(std::locale::classic());  // the global locale may know other white space
   file.open(std::string(path));
   if (!file) {
-    KESP_LOG(LogFailure) << "Failed to open file : " << path;
+    KESP_LOG("LifetimeDataParser", LogFailure) << "Failed to open file : " << path;
   } else {
     const auto values = ReadPairs(file);
     file.close();
     for (const auto& [key, value] : values) {
-      KESP_LOG(LogProgress) << "<key, value> In file: " << key << " " << value;
+      KESP_LOG("LifetimeDataParser", LogProgress)
+          << "<key, value> In file: " << key << " " << value;
     }
     for (const auto& [key, set] : mapping) {
       const auto found = values.find(key);
       if (found == values.end()) {
-        KESP_LOG(LogFailure) << "Valid <key, value> Not Found: " << key;
+        KESP_LOG("LifetimeDataParser", LogFailure) << "Valid <key, value> Not Found: " << key;
         continue;
       }
       set(found->second, lifetimeData);
-      KESP_LOG(LogProgress) << "Valid <key, value> Found: " << key << " " << found->second;
+      KESP_LOG("LifetimeDataParser", LogProgress)
+          << "Valid <key, value> Found: " << key << " " << found->second;
     }
   }
   lifetimeData.Validate();

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <LogClient.hpp>
-#include <string_view>
 
 namespace dral {
 
@@ -11,18 +10,13 @@ inline constexpr auto LogRepair = static_cast<LogLevel>(6);
 inline constexpr auto LogProgress = static_cast<LogLevel>(8);
 inline constexpr auto LogFuelGauge = static_cast<LogCategory>(0x8004);
 
-/// The source of a record: its file without the extension, so that a class has one name in the log
-/// whether its header or its source speaks. The build gives `__FILE__` from the project's root.
-constexpr std::string_view LogSource(std::string_view file) {
-  return file.substr(0, file.rfind('.'));
-}
-
 }  // namespace dral
 
-/// Begins a log record: `KESP_LOG(LogFailure) << "text" << number;`. The pieces are joined as they
-/// are, and none of them is evaluated when the level is off.
-#define KESP_LOG(level)                                                                          \
-  if (!::dral::LogClient::LevelIsEnabled(level)) {                                               \
-  } else                                                                                         \
-    ::dral::LogClient(::dral::LogSource(__FILE__), static_cast<const char*>(__func__), __LINE__, \
-                      level, ::dral::LogFuelGauge)
+/// Begins a log record: `KESP_LOG("Writable", LogFailure) << "text" << number;`. The pieces are
+/// joined as they are, and none of them is evaluated when the level is off. A class says its own name,
+/// the same from its header and its source, since compiler options may change `__FILE__`.
+#define KESP_LOG(name, level)                                                               \
+  if (!::dral::LogClient::LevelIsEnabled(level)) {                                          \
+  } else                                                                                    \
+    ::dral::LogClient("common/lib/FuelGauge/src/" name, static_cast<const char*>(__func__), \
+                      __LINE__, level, ::dral::LogFuelGauge)

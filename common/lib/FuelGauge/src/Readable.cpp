@@ -35,7 +35,7 @@ struct ReadAs {
     const auto [status, text] = Readable::GetTextFileContents(location);
     const std::uint64_t value = DecimalToUint64(text);
     if (value > std::numeric_limits<std::uint32_t>::max()) {
-      KESP_LOG(LogFailure) << "Value out of range for unsigned int: " << value;
+      KESP_LOG("Readable", LogFailure) << "Value out of range for unsigned int: " << value;
       throw std::out_of_range(text);
     }
     return {status, static_cast<unsigned int>(value)};
@@ -56,14 +56,14 @@ struct ReadAs {
 std::pair<FuelGaugeStatus, PropertyValue> Readable::Get(PropertyValue hint) const {
   const auto entry = propertyMap.find(property);
   if (entry == propertyMap.end()) {
-    KESP_LOG(LogFailure) << "Readable Missing FuelGaugeProperty definition: "
-                         << static_cast<std::uint32_t>(property);
+    KESP_LOG("Readable", LogFailure) << "Readable Missing FuelGaugeProperty definition: "
+                                     << static_cast<std::uint32_t>(property);
     throw std::logic_error("Readable Missing FuelGaugeProperty definition");
   }
   const std::string& location = entry->second.location;
   if (location.empty()) {
-    KESP_LOG(LogFailure) << "FuelGaugeProperty:" << static_cast<std::uint32_t>(property)
-                         << "not resettable, filepath empty";
+    KESP_LOG("Readable", LogFailure) << "FuelGaugeProperty:" << static_cast<std::uint32_t>(property)
+                                     << "not resettable, filepath empty";
     throw std::logic_error("Readable Missing FuelGaugeProperty filepath");
   }
   return std::visit(ReadAs{location}, hint);
@@ -78,8 +78,8 @@ std::pair<FuelGaugeStatus, std::string> Readable::GetTextFileContents(const std:
   file.pubsetbuf(&unused, 1);  // the block below is the only buffer
   if (file.open(path, std::ios::in) == nullptr) {
     const int error = errno;
-    KESP_LOG(LogFailure) << "Readable::Get failed to open file: " << path
-                         << "error: " << std::strerror(error);
+    KESP_LOG("Readable", LogFailure)
+        << "Readable::Get failed to open file: " << path << "error: " << std::strerror(error);
     return {FuelGaugeStatus::FileError, {}};
   }
   std::string text;
@@ -98,7 +98,7 @@ std::pair<FuelGaugeStatus, std::string> Readable::GetTextFileContents(const std:
     text.append(block.data(), static_cast<std::size_t>(count));
   } while (count == std::streamsize{block.size()});
   if (text.empty()) {
-    KESP_LOG(LogFailure) << "Bad or No data encountered in file:" << path;
+    KESP_LOG("Readable", LogFailure) << "Bad or No data encountered in file:" << path;
     return {FuelGaugeStatus::NoData, {}};
   }
   return {FuelGaugeStatus::Success, std::move(text)};

@@ -54,13 +54,14 @@ std::pair<FuelGaugeStatus, T> Readable::GetBinaryFileContents(const std::string&
   file.open(path, std::ios::in | std::ios::binary);
   if (!file) {
     const int error = errno;
-    KESP_LOG(LogFailure) << "Readable::GetBinaryFileContents failed to open file: " << path
-                         << "error: " << std::strerror(error);
+    KESP_LOG("Readable", LogFailure)
+        << "Readable::GetBinaryFileContents failed to open file: " << path
+        << "error: " << std::strerror(error);
     return {FuelGaugeStatus::FileError, record};
   }
   file >> record;
   if (!file) {
-    KESP_LOG(LogFailure) << "Bad or no data encountered in file:" << path;
+    KESP_LOG("Readable", LogFailure) << "Bad or no data encountered in file:" << path;
     return {FuelGaugeStatus::NoData, record};
   }
   return {FuelGaugeStatus::Success, record};

@@ -55,8 +55,8 @@ struct WriteTo {
               std::ios::out | std::ios::trunc | (Binary ? std::ios::binary : std::ios::openmode{}));
     if (!file) {
       const int error = errno;
-      KESP_LOG(LogFailure) << "Writable::Set failed to open file: " << location
-                           << "error: " << std::strerror(error);
+      KESP_LOG("Writable", LogFailure)
+          << "Writable::Set failed to open file: " << location << "error: " << std::strerror(error);
       return FuelGaugeStatus::FileError;
     }
     file << contents;
@@ -77,20 +77,20 @@ FuelGaugeStatus Writable::Reset() const {
 FuelGaugeStatus Writable::WriteData(bool useGivenValue, PropertyValue value) const {
   const auto entry = propertyMap.find(property);
   if (entry == propertyMap.end()) {
-    KESP_LOG(LogFailure) << "Writable Missing FuelGaugeProperty definition: "
-                         << static_cast<std::uint32_t>(property);
+    KESP_LOG("Writable", LogFailure) << "Writable Missing FuelGaugeProperty definition: "
+                                     << static_cast<std::uint32_t>(property);
     throw std::logic_error("Writable Missing FuelGaugeProperty definition");
   }
   const PropertyInfo& info = entry->second;
   if (!info.settable) {
-    KESP_LOG(LogFailure) << "FuelGaugeProperty:" << static_cast<std::uint32_t>(property)
-                         << "not settable";
+    KESP_LOG("Writable", LogFailure)
+        << "FuelGaugeProperty:" << static_cast<std::uint32_t>(property) << "not settable";
     return FuelGaugeStatus::Failure;
   }
   const std::unique_ptr<const PathIF> path =
       std::make_unique<Path>(info.location, std::unique_ptr<LinuxApiIF>());
   if (!path->Exists()) {
-    KESP_LOG(LogFailure) << "Writable::Set failed - file not found: " << info.location;
+    KESP_LOG("Writable", LogFailure) << "Writable::Set failed - file not found: " << info.location;
     return FuelGaugeStatus::FileError;
   }
   return std::visit(WriteTo{info.location}, useGivenValue ? value : info.resetValue);

@@ -4,7 +4,6 @@
 #include <array>
 #include <cstdint>
 #include <limits>
-#include <locale>
 #include <stdexcept>
 
 #include "Decimal.hpp"
@@ -70,34 +69,22 @@ std::pair<FuelGaugeStatus, PropertyValue> Readable::Get(PropertyValue hint) cons
 }
 
 std::pair<FuelGaugeStatus, std::string> Readable::GetTextFileContents(const std::string& path) {
-  char unused = 0;
-  std::filebuf file;
-  if (file.getloc() != std::locale::classic()) {  // the global locale may convert characters
-    file.pubimbue(std::locale::classic());
-  }
-  file.pubsetbuf(&unused, 1);  // the block below is the only buffer
-  if (file.open(path, std::ios::in) == nullptr) {
-    const int error = errno;
-    KESP_LOG("Readable", LogFailure)
-        << "Readable::Get failed to open file: " << path << "error: " << std::strerror(error);
+  File file(path, O_RDONLY);
+  if (file.Error() != 0) {
+    KESP_LOG("Readable", LogFailure) << "Readable::Get failed to open file: " << path
+                                     << "error: " << std::strerror(file.Error());
     return {FuelGaugeStatus::FileError, {}};
   }
   std::string text;
   // A page, the most that a sysfs attribute holds; the read fills what it uses.
   std::array<char, 4096> block;  // NOLINT(cppcoreguidelines-pro-type-member-init)
-  std::streamsize count = 0;
+  std::size_t count = 0;
   do {
-    // A dead bus shows up on read, not on open. The stream buffer throws what read answered; the
-    // text that came before it is no text to trust.
-    try {
-      count = file.sgetn(block.data(), block.size());
-    } catch (const std::ios_base::failure&) {
-      text.clear();
-      break;
-    }
-    text.append(block.data(), static_cast<std::size_t>(count));
-  } while (count == std::streamsize{block.size()});
-  if (text.empty()) {
+    count = file.Read(block);
+    text.append(block.data(), count);
+  } while (count == block.size());
+  // A dead bus shows up on read, not on open. What came before the error is no text to trust.
+  if (file.Error() != 0 || text.empty()) {
     KESP_LOG("Readable", LogFailure) << "Bad or No data encountered in file:" << path;
     return {FuelGaugeStatus::NoData, {}};
   }

@@ -1,16 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <cerrno>
 #include <cstring>
-#include <fstream>
-#include <locale>
 #include <string>
 #include <utility>
 
+#include "File.hpp"
 #include "FuelGaugeProperty.hpp"
 #include "FuelGaugeStatus.hpp"
 #include "KespExport.hpp"
+#include "LifetimeDataBytes.hpp"
 #include "Log.hpp"
 #include "PropertyInfo.hpp"
 #include "PropertyValue.hpp"
@@ -32,8 +31,9 @@ class KESP_EXPORT Readable {
   /// @return the whole text of the file at @p path; FileError or NoData and no text
   static std::pair<FuelGaugeStatus, std::string> GetTextFileContents(const std::string& path);
 
-  /// @return the record that `T`'s stream extraction finds in the file at @p path; FileError and a
-  ///         default record; NoData and what came before the end or the error
+  /// @tparam T a type with `Encode` and `Decode`, such as `LifetimeDataBytes.hpp` has for its record
+  /// @return the record in the file at @p path; FileError and a default record; NoData and a default
+  ///         record whose first bytes are those that came before the end or the error
   template <typename T>
   static std::pair<FuelGaugeStatus, T> GetBinaryFileContents(const std::string& path);
 
@@ -45,26 +45,20 @@ class KESP_EXPORT Readable {
 template <typename T>
 std::pair<FuelGaugeStatus, T> Readable::GetBinaryFileContents(const std::string& path) {
   T record{};
-  char unused = 0;
-  std::ifstream file;
-  if (file.getloc() != std::locale::classic()) {  // the global locale may convert characters
-    file.imbue(std::locale::classic());
-  }
-  file.rdbuf()->pubsetbuf(&unused, 1);  // no buffer, so that nothing past the record is read
-  file.open(path, std::ios::in | std::ios::binary);
-  if (!file) {
-    const int error = errno;
+  File file(path, O_RDONLY);
+  if (file.Error() != 0) {
     KESP_LOG("Readable", LogFailure)
         << "Readable::GetBinaryFileContents failed to open file: " << path
-        << "error: " << std::strerror(error);
+        << "error: " << std::strerror(file.Error());
     return {FuelGaugeStatus::FileError, record};
   }
-  file >> record;
-  if (!file) {
+  auto bytes = Encode(record);
+  const bool whole = file.Read(bytes) == bytes.size();
+  Decode(bytes, record);
+  if (!whole) {
     KESP_LOG("Readable", LogFailure) << "Bad or no data encountered in file:" << path;
-    return {FuelGaugeStatus::NoData, record};
   }
-  return {FuelGaugeStatus::Success, record};
+  return {whole ? FuelGaugeStatus::Success : FuelGaugeStatus::NoData, record};
 }
 
 }  // namespace dral

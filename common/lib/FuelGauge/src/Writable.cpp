@@ -2,65 +2,47 @@
 #include "Writable.hpp"
 
 #include <Path.hpp>
-#include <cerrno>
+#include <concepts>
 #include <cstdint>
 #include <cstring>
-#include <fstream>
-#include <locale>
 #include <memory>
 #include <stdexcept>
 #include <string>
-#include <type_traits>
+#include <string_view>
 #include <utility>
 
+#include "File.hpp"
+#include "LifetimeDataBytes.hpp"
 #include "Log.hpp"
 
 namespace dral {
 namespace {
 
-// What a value puts into the file. Not formatted by a stream, which would group digits as the
-// global locale does.
-const std::string& FileContents(const std::string& value) {
-  return value;
-}
-std::string FileContents(int value) {
-  return std::to_string(value);
-}
-std::string FileContents(unsigned int value) {
-  return std::to_string(value);
-}
-std::string FileContents(bool value) {
-  return value ? "1" : "0";
-}
-const LifetimeData& FileContents(const LifetimeData& value) {
-  return value;
-}
-
-// Writes a value to the file in the form of its type.
+// Writes a value to the file in the form of its type. The contents are made before the file is opened,
+// which empties it.
 struct WriteTo {
   const std::string& location;
 
-  template <typename T>
-  FuelGaugeStatus operator()(const T& value) const {
-    // All memory is had before the file is opened, which empties it.
-    const auto& contents = FileContents(value);
-    constexpr bool Binary = std::is_same_v<T, LifetimeData>;
-    char unused = 0;
-    std::ofstream file;
-    if (file.getloc() != std::locale::classic()) {  // the global locale may convert characters
-      file.imbue(std::locale::classic());
-    }
-    file.rdbuf()->pubsetbuf(&unused, 1);  // the contents go out in one piece, as sysfs wants them
-    file.open(location,
-              std::ios::out | std::ios::trunc | (Binary ? std::ios::binary : std::ios::openmode{}));
-    if (!file) {
-      const int error = errno;
-      KESP_LOG("Writable", LogFailure)
-          << "Writable::Set failed to open file: " << location << "error: " << std::strerror(error);
+  FuelGaugeStatus operator()(std::string_view contents) const {
+    File file(location, O_WRONLY | O_TRUNC);
+    if (file.Error() != 0) {
+      KESP_LOG("Writable", LogFailure) << "Writable::Set failed to open file: " << location
+                                       << "error: " << std::strerror(file.Error());
       return FuelGaugeStatus::FileError;
     }
-    file << contents;
+    file.Write(contents);
     return FuelGaugeStatus::Success;
+  }
+
+  // A number, or a flag as 1 or 0; a stream would group digits as the global locale does.
+  template <std::integral T>
+  FuelGaugeStatus operator()(T value) const {
+    return (*this)(std::to_string(value));
+  }
+
+  FuelGaugeStatus operator()(const LifetimeData& value) const {
+    const auto bytes = Encode(value);
+    return (*this)(std::string_view(bytes.data(), bytes.size()));
   }
 };
 
@@ -87,8 +69,7 @@ FuelGaugeStatus Writable::WriteData(bool useGivenValue, PropertyValue value) con
         << "FuelGaugeProperty:" << static_cast<std::uint32_t>(property) << "not settable";
     return FuelGaugeStatus::Failure;
   }
-  const std::unique_ptr<const PathIF> path =
-      std::make_unique<Path>(info.location, std::unique_ptr<LinuxApiIF>());
+  const std::unique_ptr<const PathIF> path = std::make_unique<Path>(info.location, nullptr);
   if (!path->Exists()) {
     KESP_LOG("Writable", LogFailure) << "Writable::Set failed - file not found: " << info.location;
     return FuelGaugeStatus::FileError;

@@ -16,12 +16,10 @@ class KESP_EXPORT Writable {
   Writable(const FuelGaugeProperty& property, const PropertyMap& propertyMap)
       : property(property), propertyMap(propertyMap) {}
 
-  /// Writes @p value.
-  /// @return see `WriteData`
+  /// Writes @p value, and answers as `WriteData`.
   FuelGaugeStatus Set(PropertyValue value) const;
 
-  /// Writes the property's reset value.
-  /// @return see `WriteData`
+  /// Writes the property's reset value, and answers as `WriteData`.
   FuelGaugeStatus Reset() const;
 
   /// Writes @p value, or the property's reset value when @p useGivenValue is false. A file that

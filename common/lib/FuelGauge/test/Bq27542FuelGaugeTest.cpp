@@ -207,7 +207,7 @@ TEST(Bq27542FuelGauge, IgnoresTheGlobalLocale) {
     std::string do_grouping() const override { return "\1"; }
     char do_thousands_sep() const override { return ','; }
   };
-  // A stream that asks it can neither read nor write.
+  // A file stream that asks it reads nothing.
   struct Broken : std::codecvt<char, char, std::mbstate_t> {
     using State = std::mbstate_t;
     bool do_always_noconv() const noexcept override { return false; }
@@ -215,14 +215,11 @@ TEST(Bq27542FuelGauge, IgnoresTheGlobalLocale) {
                  char*&) const override {
       return error;
     }
-    result do_out(State&, const char*, const char*, const char*&, char*, char*,
-                  char*&) const override {
-      return error;
-    }
   };
   const TemporaryFolder folder;
   Bq27542FuelGauge gauge("", MapOf(FuelGaugeProperty{4200},
                                    {.settable = true, .location = folder.Write("value", "")}));
+  const std::string overrideFile = folder.Write("override", "maxTemp 1");
   LogCapture log(3);
   const std::locale grouping(std::locale(), new Grouping);
   const std::locale before = std::locale::global(std::locale(grouping, new Broken));
@@ -231,11 +228,14 @@ TEST(Bq27542FuelGauge, IgnoresTheGlobalLocale) {
     answers += Describe(gauge.Set(FuelGaugeProperty{4200}, value)) + ", ";
     answers += Describe(gauge.Get(FuelGaugeProperty{4200}, value)) + ", ";
   }
+  answers +=
+      Describe(Bq27542FuelGauge(overrideFile).Get(FuelGaugeProperty::LifetimeDataResetValue, 0));
   gauge.Get(FuelGaugeProperty{12345}, 0);
   gauge.DumpPropertyMap();
   const std::string text = LifetimeData{}.ToString();
   std::locale::global(before);
-  EXPECT_EQ(answers, "0, 0 int 4200, 0, 0 record " + Bytes(LifetimeData{}) + ", ");
+  EXPECT_EQ(answers, "0, 0 int 4200, 0, 0 record " + Bytes(LifetimeData{}) + ", 0 record " +
+                         Bytes(LifetimeData{.maxTemp = 1}));
   EXPECT_EQ(text, LifetimeData{}.ToString());
   const std::string records = log.Take();
   for (const char* part : {"definition: 12345\n", "property: 12345ex: ", "Type: 4200 : "}) {

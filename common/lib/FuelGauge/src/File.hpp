@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstddef>
+#include <span>
+#include <string>
+#include <string_view>
+
+namespace dral {
+
+/// An open file, closed with the object, which no program that another thread starts inherits. Nothing
+/// is thrown, and a call that a signal interrupts is made again.
+class File {
+ public:
+  /// @param flags open(2)'s; a missing file is not made
+  File(const std::string& path, int flags) {
+    do {
+      // The mode keeps a hardened C library from looking for a missing one at run time.
+      descriptor = ::open(path.c_str(), flags | O_CLOEXEC, 0);
+      error = descriptor < 0 ? errno : 0;
+    } while (error == EINTR);
+  }
+  ~File() {
+    if (descriptor >= 0) {
+      ::close(descriptor);
+    }
+  }
+  File(const File&) = delete;
+  File& operator=(const File&) = delete;
+
+  /// @return the errno of the call that failed, 0 while none has
+  int Error() const { return error; }
+
+  /// Fills @p bytes, unless the file ends or the read fails.
+  /// @return how many came
+  std::size_t Read(std::span<char> bytes) { return Transfer(::read, bytes.data(), bytes.size()); }
+
+  /// Writes @p bytes, in one piece if the file takes them so.
+  void Write(std::string_view bytes) { Transfer(::write, bytes.data(), bytes.size()); }
+
+ private:
+  template <typename Call, typename Byte>
+  std::size_t Transfer(Call call, Byte* bytes, std::size_t size) {
+    std::size_t done = 0;
+    ssize_t count = 1;
+    while (count != 0 && done < size && error == 0) {
+      count = call(descriptor, bytes + done, size - done);
+      error = count < 0 && errno != EINTR ? errno : 0;
+      done += static_cast<std::size_t>(std::max<ssize_t>(count, 0));
+    }
+    return done;
+  }
+
+  int descriptor = -1;
+  int error = 0;
+};
+
+}  // namespace dral

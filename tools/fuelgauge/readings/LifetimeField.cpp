@@ -10,26 +10,24 @@
 
 namespace fuelgauge {
 
-using dral::LifetimeData;
-
 const std::array<LifetimeField, 6> LifetimeFields = {{
-    {"maxTemp", Unit::TenthDegreeCelsius, &LifetimeData::maxTemp, LifetimeData::LifetimeMinTemp,
-     LifetimeData::LifetimeMaxTemp},
-    {"minTemp", Unit::TenthDegreeCelsius, &LifetimeData::minTemp, LifetimeData::LifetimeMinTemp,
-     LifetimeData::LifetimeMaxTemp},
-    {"maxPackVoltage", Unit::Millivolt, &LifetimeData::maxPackVoltage, 0, 0x7FFF},
-    {"minPackVoltage", Unit::Millivolt, &LifetimeData::minPackVoltage, 0, 0x7FFF},
-    {"maxChargeCurrent", Unit::Milliampere, &LifetimeData::maxChargeCurrent,
-     LifetimeData::LifetimeMinCurrent, LifetimeData::LifetimeMaxCurrent},
-    {"maxDischargeCurrent", Unit::Milliampere, &LifetimeData::maxDischargeCurrent,
-     LifetimeData::LifetimeMinCurrent, LifetimeData::LifetimeMaxCurrent},
+    {"maxTemp", Unit::TenthDegreeCelsius, &dral::LifetimeData::maxTemp,
+     dral::LifetimeData::LifetimeMinTemp, dral::LifetimeData::LifetimeMaxTemp},
+    {"minTemp", Unit::TenthDegreeCelsius, &dral::LifetimeData::minTemp,
+     dral::LifetimeData::LifetimeMinTemp, dral::LifetimeData::LifetimeMaxTemp},
+    {"maxPackVoltage", Unit::Millivolt, &dral::LifetimeData::maxPackVoltage, 0, 0x7FFF},
+    {"minPackVoltage", Unit::Millivolt, &dral::LifetimeData::minPackVoltage, 0, 0x7FFF},
+    {"maxChargeCurrent", Unit::Milliampere, &dral::LifetimeData::maxChargeCurrent,
+     dral::LifetimeData::LifetimeMinCurrent, dral::LifetimeData::LifetimeMaxCurrent},
+    {"maxDischargeCurrent", Unit::Milliampere, &dral::LifetimeData::maxDischargeCurrent,
+     dral::LifetimeData::LifetimeMinCurrent, dral::LifetimeData::LifetimeMaxCurrent},
 }};
 
-int LifetimeField::Value(const LifetimeData& data) const {
+int LifetimeField::Value(const dral::LifetimeData& data) const {
   return std::visit([&data](auto pointer) { return int{data.*pointer}; }, member);
 }
 
-void LifetimeField::Store(LifetimeData& data, int value) const {
+void LifetimeField::Store(dral::LifetimeData& data, int value) const {
   std::visit(
       [&data, value](auto pointer) {
         data.*pointer = static_cast<std::remove_reference_t<decltype(data.*pointer)>>(value);
@@ -60,7 +58,7 @@ const LifetimeField& FindField(std::string_view name) {
   throw UsageError("no field named '" + std::string(name) + "'; the fields are " + names);
 }
 
-void Assign(LifetimeData& data, std::string_view assignment) {
+void Assign(dral::LifetimeData& data, std::string_view assignment) {
   const std::size_t equals = assignment.find('=');
   if (equals == std::string_view::npos) {
     throw UsageError("'" + std::string(assignment) +

@@ -1,6 +1,10 @@
 # SPDX-License-Identifier: MIT
 include(CMakePackageConfigHelpers)
 
+# Folders may be absolute: those do not move with the prefix.
+set(prefix "\${prefix}")
+cmake_path(APPEND prefix ${CMAKE_INSTALL_LIBDIR} OUTPUT_VARIABLE KESP_PC_LIBDIR)
+cmake_path(APPEND prefix ${CMAKE_INSTALL_INCLUDEDIR} OUTPUT_VARIABLE KESP_PC_INCLUDEDIR)
 # From the place of a package's files to the prefix, so that an installed tree can be moved.
 cmake_path(RELATIVE_PATH CMAKE_INSTALL_PREFIX
            BASE_DIRECTORY ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig OUTPUT_VARIABLE KESP_PC_TO_PREFIX)
@@ -23,13 +27,13 @@ function(install_library target)
           DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${target})
   install(EXPORT ${target}Targets NAMESPACE kesp:: DESTINATION ${package_dir})
 
-  configure_package_config_file(${PROJECT_SOURCE_DIR}/cmake/config.cmake.in ${target}Config.cmake
-                                INSTALL_DESTINATION ${package_dir})
+  configure_file(${PROJECT_SOURCE_DIR}/cmake/config.cmake.in ${target}Config.cmake @ONLY)
   write_basic_package_version_file(${target}ConfigVersion.cmake COMPATIBILITY SameMajorVersion)
   install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${target}Config.cmake
                 ${CMAKE_CURRENT_BINARY_DIR}/${target}ConfigVersion.cmake
           DESTINATION ${package_dir})
 
+  set(description "${${target}_DESCRIPTION}")
   configure_file(${PROJECT_SOURCE_DIR}/cmake/package.pc.in ${target}.pc @ONLY)
   install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${target}.pc
           DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)

@@ -1,11 +1,14 @@
 # SPDX-License-Identifier: MIT
 if(KESP_TESTS)
   enable_testing()
-  if(CMAKE_CROSSCOMPILING)
-    # Debian has GoogleTest built for the host alone, and its sources for all others.
-    add_subdirectory(/usr/src/googletest googletest EXCLUDE_FROM_ALL SYSTEM)
+  if(CMAKE_CROSSCOMPILING AND EXISTS /usr/src/googletest)
+    find_package(GTest QUIET)
   else()
     find_package(GTest REQUIRED)
+  endif()
+  if(NOT GTest_FOUND)
+    # Debian's cross compilers come without one, but its sources build for all.
+    add_subdirectory(/usr/src/googletest googletest EXCLUDE_FROM_ALL SYSTEM)
   endif()
   include(GoogleTest)
 endif()

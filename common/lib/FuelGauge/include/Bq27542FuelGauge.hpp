@@ -48,7 +48,7 @@ class KESP_EXPORT Bq27542FuelGauge : public FuelGaugeIF {
   static std::unique_ptr<PropertyMap> PropertyMapAt(std::string_view directory);
 
   /// @param lifetimeResetPath a lifetime override file (see `LifetimeDataParser`); empty: none
-  /// @param propertyMap copied; null: the properties of `bq27542-0`
+  /// @param propertyMap taken over; null: the properties of `bq27542-0`
   /// @throws std::invalid_argument, std::out_of_range when a field's value in the override file is
   ///         no number or too large
   /// @throws std::bad_variant_access when @p lifetimeResetPath is given but @p propertyMap has no

@@ -3,7 +3,6 @@
 
 #include <cstdint>
 #include <exception>
-#include <type_traits>
 #include <variant>
 
 #include "LifetimeDataParser.hpp"
@@ -14,29 +13,20 @@
 namespace dral {
 namespace {
 
-// A hint of the same type, without its content: GCC 12's std::variant crashes when there is no memory
-// to copy a long string in it.
-PropertyValue BlankLike(const PropertyValue& hint) {
-  return std::visit(
-      [](const auto& held) {
-        return PropertyValue(std::in_place_type<std::decay_t<decltype(held)>>);
-      },
-      hint);
+// Not the variant's own copy: GCC 12's crashes when there is no memory for a long string in it.
+PropertyValue CopyOf(const PropertyValue& value) {
+  const auto copy = [](const auto& held) { return PropertyValue(held); };
+  return value.valueless_by_exception() ? value : std::visit(copy, value);
 }
 
 }  // namespace
 
 Bq27542FuelGauge::Bq27542FuelGauge(std::string_view lifetimeResetPath,
                                    std::unique_ptr<PropertyMap> propertyMap) {
-  if (propertyMap) {
-    KESP_LOG("Bq27542FuelGauge", LogProgress)
-        << "Bq27542FuelGauge constructor using passed in property map ";
-    this->propertyMap = *propertyMap;
-  } else {
-    KESP_LOG("Bq27542FuelGauge", LogProgress)
-        << "Bq27542FuelGauge constructor using default property map ";
-    this->propertyMap = DefaultPropertyMap();
-  }
+  KESP_LOG("Bq27542FuelGauge", LogProgress)
+      << "Bq27542FuelGauge constructor using " << (propertyMap ? "passed in" : "default")
+      << " property map ";
+  this->propertyMap = propertyMap ? std::move(*propertyMap) : DefaultPropertyMap();
   if (!lifetimeResetPath.empty()) {
     KESP_LOG("Bq27542FuelGauge", LogProgress)
         << "Bq27542FuelGauge constructor overwriting lifetime reset data " << lifetimeResetPath;
@@ -77,12 +67,11 @@ std::pair<FuelGaugeStatus, PropertyValue> Bq27542FuelGauge::DoGet(FuelGaugePrope
     // Without the lock, since the map does not change, and so that no slow bus holds it up.
     const auto entry = propertyMap.find(FuelGaugeProperty::LifetimeData);
     return {FuelGaugeStatus::Success,
-            entry != propertyMap.end() ? entry->second.resetValue : LifetimeData{}};
+            entry != propertyMap.end() ? CopyOf(entry->second.resetValue) : LifetimeData{}};
   }
   try {
     const std::scoped_lock lock(mutex);
-    return Readable(property, propertyMap)
-        .Get(value.valueless_by_exception() ? value : BlankLike(value));
+    return Readable(property, propertyMap).Get(CopyOf(value));
   } catch (const std::exception& exception) {
     KESP_LOG("Bq27542FuelGauge", LogFailure)
         << "Failed to get property: " << static_cast<std::uint32_t>(property)

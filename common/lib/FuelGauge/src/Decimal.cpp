@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Decimal.hpp"
 
+#include <algorithm>
 #include <charconv>
 #include <limits>
 #include <stdexcept>
@@ -14,16 +15,10 @@ struct Decimal {
   std::uint64_t magnitude;
 };
 
-bool IsSpace(char byte) {
-  return byte == ' ' || ('\t' <= byte && byte <= '\r');
-}
-
 Decimal Parse(std::string_view text, const char* name) {
-  while (!text.empty() && IsSpace(text.front())) {
-    text.remove_prefix(1);
-  }
-  const bool negative = !text.empty() && text.front() == '-';
-  if (negative || (!text.empty() && text.front() == '+')) {
+  text.remove_prefix(std::min(text.find_first_not_of(" \t\n\v\f\r"), text.size()));
+  const bool negative = text.starts_with('-');
+  if (negative || text.starts_with('+')) {
     text.remove_prefix(1);
   }
   std::uint64_t magnitude = 0;

@@ -24,8 +24,8 @@ PropertyValue CopyOf(const PropertyValue& value) {
 Bq27542FuelGauge::Bq27542FuelGauge(std::string_view lifetimeResetPath,
                                    std::unique_ptr<PropertyMap> propertyMap) {
   KESP_LOG("Bq27542FuelGauge", LogProgress)
-      << "Bq27542FuelGauge constructor using " << (propertyMap ? "passed in" : "default")
-      << " property map ";
+      << (propertyMap ? "Bq27542FuelGauge constructor using passed in property map "
+                      : "Bq27542FuelGauge constructor using default property map ");
   this->propertyMap = propertyMap ? std::move(*propertyMap) : DefaultPropertyMap();
   if (!lifetimeResetPath.empty()) {
     KESP_LOG("Bq27542FuelGauge", LogProgress)

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <fcntl.h>
+#include <pthread.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -27,7 +28,11 @@ class File {
   }
   ~File() {
     if (descriptor >= 0) {
+      // A thread that is cancelled ends in close(2): in a destructor, and so would the whole process.
+      int before = 0;
+      ::pthread_setcancelstate(PTHREAD_CANCEL_DISABLE, &before);
       ::close(descriptor);
+      ::pthread_setcancelstate(before, nullptr);
     }
   }
   File(const File&) = delete;

@@ -76,7 +76,7 @@ std::pair<FuelGaugeStatus, std::string> Readable::GetTextFileContents(const std:
     return {FuelGaugeStatus::FileError, {}};
   }
   std::string text;
-  // A page, the most that a sysfs attribute holds; the read fills what it uses.
+  // On most hosts a page, the most that a sysfs attribute holds; the read fills what it uses.
   std::array<char, 4096> block;  // NOLINT(cppcoreguidelines-pro-type-member-init)
   std::size_t count = 0;
   do {

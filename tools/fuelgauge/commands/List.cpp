@@ -33,7 +33,7 @@ ExitStatus List(const Gauge& gauge, bool json) {
   }
   if (!readings.AnySucceeded()) {
     Complain(gauge.Missing(readings));
-    return ToExitStatus(readings.begin()->status);
+    return ToExitStatus(readings.Telling().status);
   }
   return ExitStatus::Success;
 }

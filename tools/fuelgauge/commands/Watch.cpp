@@ -49,7 +49,7 @@ std::string WholeNumber(const std::string& text) {
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
   return error == std::errc() && end == text.data() + text.size() && number > 0
              ? ""
-             : "'" + text + "' is not a whole number above 0";
+             : "'" + text + "' is not a whole number from 1 to 18446744073709551615";
 }
 
 void PrintLine(const std::string& time, const Readings& readings) {

@@ -13,7 +13,7 @@ namespace fuelgauge {
 namespace {
 
 // NOLINTNEXTLINE(cppcoreguidelines-avoid-non-const-global-variables): a handler sees nothing else
-volatile std::sig_atomic_t endStatus = 0;
+volatile std::sig_atomic_t endStatus = static_cast<int>(ExitStatus::FileError);
 
 // Calls only what a handler may call.
 extern "C" void End(int /*signal*/) {

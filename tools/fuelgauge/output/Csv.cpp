@@ -8,7 +8,7 @@
 namespace fuelgauge {
 
 std::string CsvField(std::string_view text) {
-  const std::string safe = TerminalSafe(text);
+  std::string safe = TerminalSafe(text);
   if (safe.find_first_of(",\"") == std::string::npos) {
     return safe;
   }

@@ -129,8 +129,9 @@ void AddReads(MetricsText& text, const Readings& readings) {
     text.Sample(reading.Succeeded() ? 1 : 0, 0,
                 {{"property", std::string(reading.property->name)}});
   }
-  text.Family("read_status", "gauge",
-              "How the read ended: 0 read, 2 not understood, 3 no such file, 4 no data.");
+  text.Family(
+      "read_status", "gauge",
+      "How the read ended: 0 read, 2 not understood, 3 cannot be opened, 4 an error or no data.");
   for (const Reading& reading : readings) {
     text.Sample(static_cast<int>(reading.status), 0,
                 {{"property", std::string(reading.property->name)}});

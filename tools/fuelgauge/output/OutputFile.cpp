@@ -2,7 +2,9 @@
 #include "output/OutputFile.hpp"
 
 #include <fcntl.h>
+#include <linux/magic.h>
 #include <sys/stat.h>
+#include <sys/vfs.h>
 #include <unistd.h>
 
 #include <array>
@@ -54,19 +56,20 @@ std::optional<struct stat> RegularFile(const std::string& path) {
 }
 
 // Where the last link of @p path leads, whether there is a file yet or not.
-std::string FileMeant(const std::string& path, const std::optional<struct stat>& old) {
+std::string FileMeant(const std::string& path) {
   std::string meant = path;
   std::array<char, PATH_MAX> target{};
   ssize_t length = 0;
   while ((length = ::readlink(meant.c_str(), target.data(), target.size())) >= 0) {
+    // Such as /dev/stdout: whoever has the file open would go on writing to the one that was replaced.
+    struct statfs system {};
+    const std::string folder = FolderOf(meant);
+    if (::statfs(folder.empty() ? "." : folder.c_str(), &system) == 0 &&
+        system.f_type == PROC_SUPER_MAGIC) {
+      throw OutputError("'" + path + "' was not written: it leads to a file that is open already");
+    }
     const std::string next(target.data(), static_cast<std::size_t>(length));
     meant = next.front() == '/' ? next : FolderOf(meant).append(next);
-  }
-  // A link of /proc to an open file leads there even when its text is no name, or another file's.
-  struct stat found {};
-  if (old && (::lstat(meant.c_str(), &found) != 0 || found.st_dev != old->st_dev ||
-              found.st_ino != old->st_ino)) {
-    throw OutputError("'" + path + "' was not written: it leads to a file without a name");
   }
   return meant;
 }
@@ -156,7 +159,7 @@ void OutputFile::Write(std::string_view text) const {
   std::string outcome = "' was not written: ";
   try {
     const std::optional<struct stat> old = RegularFile(path);
-    const std::string meant = FileMeant(path, old);
+    const std::string meant = FileMeant(path);
     const std::string folderName = FolderOf(meant);
     if (folderName == meant) {
       Fail(ENOENT);  // no name behind the folder's

@@ -34,8 +34,14 @@ Reading Gauge::Read(const Property& property, Type type) const {
     return {&property, status, std::move(value)};
   }
   Cause cause = Cause::Of(file->second.location);
-  if (cause.error == 0) {  // it may have come back since
+  // It may have come back since. On a bus that fails now and then, the two have to agree.
+  constexpr int Tries = 3;
+  for (int again = 0; again < Tries && cause.error == 0 && status != FuelGaugeStatus::Success;
+       ++again) {
     std::tie(status, value) = gauge->Get(property.id, Hint(type));
+    if (status != FuelGaugeStatus::Success) {
+      cause = Cause::Of(file->second.location);
+    }
   }
   if (status != FuelGaugeStatus::Success) {
     status = cause.Status(type == Type::Lifetime);
@@ -54,7 +60,7 @@ Readings Gauge::ReadAll() const {
 }
 
 std::string Gauge::Missing(const Readings& readings) const {
-  return "no property could be read in '" + folder + "': " + readings.begin()->Reason();
+  return "no property could be read in '" + folder + "': " + readings.Telling().Reason();
 }
 
 }  // namespace fuelgauge

@@ -73,7 +73,12 @@ std::string Reading::Reason() const {
   if (cause.text.empty()) {
     return "the file is empty";
   }
-  if (std::holds_alternative<dral::LifetimeData>(value)) {
+  const bool isRecord = std::holds_alternative<dral::LifetimeData>(value);
+  if (std::holds_alternative<std::string>(value) ||
+      (isRecord && cause.text.size() >= sizeof(dral::LifetimeData))) {
+    return "the read failed, and the file could be read a moment later";
+  }
+  if (isRecord) {
     return "the file holds " + std::to_string(cause.text.size()) + " bytes, not a record of 32";
   }
   const bool isUnsigned = std::holds_alternative<unsigned int>(value);

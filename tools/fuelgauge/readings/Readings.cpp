@@ -19,4 +19,8 @@ bool Readings::AnySucceeded() const {
   return std::any_of(begin(), end(), std::mem_fn(&Reading::Succeeded));
 }
 
+const Reading& Readings::Telling() const {
+  return *std::find_if_not(begin(), end(), std::mem_fn(&Reading::MayBeMissing));
+}
+
 }  // namespace fuelgauge

@@ -28,6 +28,9 @@ class Readings {
   /// @return whether any of them could be read
   bool AnySucceeded() const;
 
+  /// @return the reading that tells most of a gauge that gives nothing: the first that must be there
+  const Reading& Telling() const;
+
   auto begin() const { return all.begin(); }
   auto end() const { return all.end(); }
 

@@ -16,7 +16,7 @@ namespace bare {
 /// Reads a text to its end, since only a read of nothing tells that there is no more.
 inline bool ReadText(const std::string& path) {
   std::array<char, 4096> block;
-  const int file = ::open(path.c_str(), O_RDONLY);
+  const int file = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
   ssize_t total = 0;
   ssize_t count = 0;
   while ((count = ::read(file, block.data(), block.size())) > 0) {
@@ -28,7 +28,7 @@ inline bool ReadText(const std::string& path) {
 /// Reads the 32 bytes of a record, whose length is known.
 inline bool ReadRecord(const std::string& path) {
   std::array<char, 32> bytes;
-  const int file = ::open(path.c_str(), O_RDONLY);
+  const int file = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
   const ssize_t count = ::read(file, bytes.data(), bytes.size());
   return ::close(file) == 0 && count == ssize_t{bytes.size()};
 }
@@ -39,7 +39,7 @@ inline bool Write(const std::string& path, std::string_view contents) {
   if (::stat(path.c_str(), &status) != 0) {
     return false;
   }
-  const int file = ::open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0666);
+  const int file = ::open(path.c_str(), O_WRONLY | O_TRUNC | O_CLOEXEC);
   const ssize_t count = ::write(file, contents.data(), contents.size());
   return ::close(file) == 0 && count == static_cast<ssize_t>(contents.size());
 }

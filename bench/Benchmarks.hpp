@@ -12,7 +12,6 @@
 /// @p folder holds a gauge's sixteen files, and outlives the run.
 void AddReads(const std::string& folder);
 void AddWrites(const std::string& folder);
-void AddThreads(const std::string& folder);
 void AddCreate();
 void AddSysfs();
 

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include <Bq27542FuelGauge.hpp>
-#include <array>
 #include <cstdio>
 #include <fstream>
 #include <memory>
@@ -39,19 +38,6 @@ bool ReadRecordByStream(const std::string& path) {
   file >> record;
   benchmark::DoNotOptimize(record);
   return static_cast<bool>(file);
-}
-
-// What a standard file stream costs at the least: its buffer alone, itself without a buffer, and the text
-// left as it is.
-bool ReadByFilebuf(const std::string& path) {
-  std::array<char, 64> text;
-  char unused = 0;
-  std::filebuf file;
-  file.pubsetbuf(&unused, 1);
-  const bool opened = file.open(path, std::ios::in) != nullptr;
-  const bool read = opened && file.sgetn(text.data(), text.size()) > 0;
-  benchmark::DoNotOptimize(text);
-  return read;
 }
 
 bool ReadByScanf(const std::string& path) {
@@ -93,7 +79,6 @@ void AddNumberReads(const std::string& place, FuelGaugeIF& gauge, FuelGaugePrope
                     const std::string& path) {
   Add(place + "/Floor/int", [path] { return bare::ReadText(path); });
   Add(place + "/Get/int", [&gauge, property] { return Get<int>(gauge, property); });
-  Add(place + "/filebuf/int", [path] { return ReadByFilebuf(path); });
   Add(place + "/ifstream/int", [path] { return ReadByStream<int>(path); });
   Add(place + "/fscanf/int", [path] { return ReadByScanf(path); });
 }

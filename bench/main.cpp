@@ -15,7 +15,6 @@ int main(int argc, char** argv) {
   std::filesystem::copy(SIMULATED_GAUGE, folder);
   AddReads(folder);
   AddWrites(folder);
-  AddThreads(folder);
   AddCreate();
   AddSysfs();
   benchmark::RunSpecifiedBenchmarks();

@@ -46,7 +46,11 @@ Reading Gauge::Read(const Property& property, Type type) const {
   if (status != FuelGaugeStatus::Success) {
     status = cause.Status(type == Type::Lifetime);
   }
-  return {&property, status, std::move(value), std::move(cause)};
+  Reading reading{&property, status, std::move(value), std::move(cause)};
+  if (reading.CameBack()) {
+    reading.status = FuelGaugeStatus::NoData;
+  }
+  return reading;
 }
 
 Readings Gauge::ReadAll() const {

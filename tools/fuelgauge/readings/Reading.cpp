@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "readings/Reading.hpp"
 
+#include <algorithm>
 #include <cerrno>
+#include <charconv>
 #include <variant>
 
 namespace fuelgauge {
@@ -23,6 +25,29 @@ std::string Shortened(std::string_view text) {
   }
   return std::string(text.substr(0, end)).append("...");
 }
+
+template <typename T>
+bool BeginsWith(std::string_view text) {
+  text.remove_prefix(std::min(text.find_first_not_of(" \t\n\v\f\r"), text.size()));
+  text.remove_prefix(text.starts_with('+') ? 1 : 0);
+  T number{};
+  return std::from_chars(text.data(), text.data() + text.size(), number).ec == std::errc();
+}
+
+// Whether a file's text is a value of the type that an alternative has.
+struct IsTextOf {
+  std::string_view text;
+
+  bool operator()(const std::string& /*type*/) const { return !text.empty(); }
+  bool operator()(const dral::LifetimeData& /*type*/) const {
+    return text.size() >= sizeof(dral::LifetimeData);
+  }
+  bool operator()(bool /*type*/) const { return BeginsWith<int>(text); }
+  template <typename T>
+  bool operator()(T /*type*/) const {
+    return BeginsWith<T>(text);
+  }
+};
 
 }  // namespace
 
@@ -73,12 +98,10 @@ std::string Reading::Reason() const {
   if (cause.text.empty()) {
     return "the file is empty";
   }
-  const bool isRecord = std::holds_alternative<dral::LifetimeData>(value);
-  if (std::holds_alternative<std::string>(value) ||
-      (isRecord && cause.text.size() >= sizeof(dral::LifetimeData))) {
+  if (CameBack()) {
     return "the read failed, and the file could be read a moment later";
   }
-  if (isRecord) {
+  if (std::holds_alternative<dral::LifetimeData>(value)) {
     return "the file holds " + std::to_string(cause.text.size()) + " bytes, not a record of 32";
   }
   const bool isUnsigned = std::holds_alternative<unsigned int>(value);
@@ -86,6 +109,10 @@ std::string Reading::Reason() const {
       .append(Shortened(cause.text))
       .append(isUnsigned ? "' is not a whole number from 0 to 4294967295"
                          : "' is not a whole number of 32 bits");
+}
+
+bool Reading::CameBack() const {
+  return !Succeeded() && std::visit(IsTextOf{cause.text}, value);
 }
 
 bool Reading::MayBeMissing() const {

@@ -37,6 +37,9 @@ struct Reading {
   /// @return why it was not read, in words for people
   std::string Reason() const;
 
+  /// @return whether it was not read although its file holds such a value: the bus fails now and then
+  bool CameBack() const;
+
   /// @return whether a gauge in order may fail to give this: a file that its driver may lack, or an
   ///         estimate of the time to empty
   bool MayBeMissing() const;

@@ -23,15 +23,6 @@ void SetUnsigned(const std::string& text, LifetimeData& data) {
   data.*Field = static_cast<std::uint16_t>(DecimalToUint64(text));
 }
 
-// Of a key that stands twice, the first value counts.
-std::unordered_map<std::string, std::string> ReadPairs(std::istream& file) {
-  std::unordered_map<std::string, std::string> values;
-  for (LifetimeDataParser::kv_pair pair; file >> pair;) {
-    values.emplace(std::move(pair.key), std::move(pair.value));
-  }
-  return values;
-}
-
 }  // namespace
 
 const std::unordered_map<std::string, LifetimeDataParser::Setter> LifetimeDataParser::mapping = {
@@ -55,7 +46,10 @@ LifetimeDataParser::LifetimeDataParser(std::string_view path, const LifetimeData
   if (!file) {
     KESP_LOG("LifetimeDataParser", LogFailure) << "Failed to open file : " << path;
   } else {
-    const auto values = ReadPairs(file);
+    std::unordered_map<std::string, std::string> values;
+    for (kv_pair pair; file >> pair;) {  // of a key that comes twice, the first value counts
+      values.emplace(std::move(pair.key), std::move(pair.value));
+    }
     file.close();
     for (const auto& [key, value] : values) {
       KESP_LOG("LifetimeDataParser", LogProgress)

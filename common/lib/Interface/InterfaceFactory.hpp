@@ -14,11 +14,11 @@ namespace dral {
 class KESP_EXPORT InterfaceFactory {
  public:
   /// Builds a new object with the constructor registered as @p name, or as "DefaultIF" when there
-  /// is no such name. Thread-safe. Keeps neither @p name nor, for its part, the arguments. Not to
-  /// be called once the process is exiting.
+  /// is no such name. Thread-safe. Retains neither @p name nor the arguments. Do not
+  /// call it once the process is exiting.
   ///
   /// The argument list chooses the registry, so name it: `Create<FuelGaugeIF,
-  /// std::string_view>(…)`. Left to deduction, a `std::string` argument would ask another registry,
+  /// std::string_view>(…)`. Left to deduction, a `std::string` argument selects another registry,
   /// which is empty.
   ///
   /// @throws std::out_of_range when neither @p name nor "DefaultIF" is registered

@@ -16,16 +16,16 @@
 namespace dral {
 
 /// A Texas Instruments BQ27542 as the kernel's power_supply class serves it. Most callers get one
-/// from the factory (see `FuelGaugeIF`); build one directly to read a gauge of another name:
+/// from the factory (see `FuelGaugeIF`); build one directly to read a gauge with another name:
 ///
 ///     const auto directory = "/sys/class/power_supply/bq27542-1";
 ///     Bq27542FuelGauge gauge("", Bq27542FuelGauge::PropertyMapAt(directory));
 ///
-/// Thread-safe but for `UpdateResetPropertyValues`. Every read opens its file anew.
+/// Thread-safe except for `UpdateResetPropertyValues`. Every read opens its file again.
 class KESP_EXPORT Bq27542FuelGauge : public FuelGaugeIF {
  public:
-  // The properties of the device `bq27542-0`, each with the name of its file. All are read-only but the
-  // last.
+  // The properties of the device `bq27542-0`, each with the name of its file. Only the last can be
+  // written.
   static const PropertyInfo NamePropertyInfo;                      ///< manufacturer
   static const PropertyInfo TechnologyPropertyInfo;                ///< technology
   static const PropertyInfo StatusPropertyInfo;                    ///< status
@@ -47,10 +47,10 @@ class KESP_EXPORT Bq27542FuelGauge : public FuelGaugeIF {
   /// @return the sixteen properties with their files in @p directory instead, for the constructor
   static std::unique_ptr<PropertyMap> PropertyMapAt(std::string_view directory);
 
-  /// @param lifetimeResetPath a lifetime override file (see `LifetimeDataParser`); empty: none
-  /// @param propertyMap taken over; null: the properties of `bq27542-0`
+  /// @param lifetimeResetPath a lifetime override file (see `LifetimeDataParser`); empty for none
+  /// @param propertyMap taken over; null means the properties of `bq27542-0`
   /// @throws std::invalid_argument, std::out_of_range when a field's value in the override file is
-  ///         no number or too large
+  ///         not a number or is too large
   /// @throws std::bad_variant_access when @p lifetimeResetPath is given but @p propertyMap has no
   ///         lifetime entry, or one that holds no record
   explicit Bq27542FuelGauge(std::string_view lifetimeResetPath,
@@ -59,7 +59,7 @@ class KESP_EXPORT Bq27542FuelGauge : public FuelGaugeIF {
 
   /// Reads the lifetime reset value anew from an override file; an empty path changes nothing.
   /// Not thread-safe: no other call on this object may run meanwhile.
-  /// @throws as the constructor; a record that was the reset value still is
+  /// @throws as the constructor; the reset value is then unchanged
   void UpdateResetPropertyValues(std::string_view lifetimeResetPath);
 
   /// Writes every property's descriptor to the log, at level 3.

@@ -13,8 +13,8 @@ namespace dral {
 /// The extremes that the gauge has recorded over the life of its battery pack.
 ///
 /// A plain value in the gauge's own units, never converted: temperatures in 0.1 °C, pack voltages
-/// in mV, currents in mA. A default-constructed record is what a reset writes, unless
-/// an override file says otherwise.
+/// in mV, currents in mA. A reset writes a default-constructed record, unless an override file
+/// changes it.
 struct KESP_EXPORT LifetimeData {
   static constexpr std::int16_t LifetimeMinTemp = -600;      ///< lowest valid temperature
   static constexpr std::int16_t LifetimeMaxTemp = 1400;      ///< highest valid temperature
@@ -38,9 +38,9 @@ struct KESP_EXPORT LifetimeData {
   std::int16_t maxChargeCurrent = DefaultResetMaxChargeCurrent;  ///< mA
   std::int16_t maxDischargeCurrent =
       DefaultResetMaxDischargeCurrent;      ///< mA, by convention negative
-  std::array<std::uint8_t, 20> reserved{};  ///< the gauge's own; carried through unchanged
+  std::array<std::uint8_t, 20> reserved{};  ///< the gauge's own; passed through unchanged
 
-  /// Sets each field that is out of its limits to its default and logs that at level 6. Limits:
+  /// Sets each field outside its limits to its default and logs that at level 6. Limits:
   /// temperatures `LifetimeMinTemp` to `LifetimeMaxTemp`, pack voltages up to 32767, currents
   /// `LifetimeMinCurrent` to `LifetimeMaxCurrent`. Fields are not compared with one another.
   void Validate();
@@ -50,11 +50,11 @@ struct KESP_EXPORT LifetimeData {
 };
 
 /// Writes the 32-byte binary form: the fields in order, little-endian on every host, then the
-/// reserved bytes. The stream's state tells whether it took them.
+/// reserved bytes. The stream's state tells whether it took the bytes.
 KESP_EXPORT std::ostream& operator<<(std::ostream& os, const LifetimeData& data);
 
 /// Reads the 32-byte binary form, neither validated nor converted. When the stream ends early, the
-/// bytes that came replace the first ones of @p data, and the stream's state tells so.
+/// bytes read replace the first ones of @p data, and the stream's state says so.
 KESP_EXPORT std::istream& operator>>(std::istream& is, LifetimeData& data);
 
 }  // namespace dral

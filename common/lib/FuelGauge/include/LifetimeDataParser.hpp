@@ -18,9 +18,9 @@ namespace dral {
 ///     maxTemp 550
 ///     minTemp -100
 ///
-/// There are no comments and no quotes. Of a name that stands twice the first counts, unknown names
+/// There are no comments and no quotes. If a name appears twice, the first one wins; unknown names
 /// are ignored, and fields that are not named keep their value. Numbers are decimal and in the units
-/// of `LifetimeData`; what follows the digits of one is ignored, and its low 16 bits count.
+/// of `LifetimeData`; anything after the digits is ignored, and only the low 16 bits are used.
 ///
 /// A parser belongs to one thread; several may work at once.
 class KESP_EXPORT LifetimeDataParser {
@@ -37,13 +37,13 @@ class KESP_EXPORT LifetimeDataParser {
   /// The six names that a file may set. Never changed once the library is loaded.
   static const std::unordered_map<std::string, Setter> mapping;
 
-  /// Reads the file at @p path over a copy of @p defaults and validates the outcome. A file that
-  /// cannot be opened is logged, and the outcome is @p defaults, validated.
+  /// Reads the file at @p path over a copy of @p defaults and validates the result. A file that
+  /// cannot be opened is logged, and the result is @p defaults, validated.
   /// @throws std::invalid_argument when a field's value is not a number
   /// @throws std::out_of_range when it is beyond 32 bits (pack voltages: 64 bits)
   LifetimeDataParser(std::string_view path, const LifetimeData& defaults);
 
-  /// @return the record that was built
+  /// @return the resulting record
   const LifetimeData& GetLifetimeData() const { return lifetimeData; }
 
  private:

@@ -11,7 +11,7 @@
 
 namespace dral {
 
-/// Describes one property: which file holds it and what may be done with it.
+/// Describes one property: its file, and whether it can be written.
 struct PropertyInfo {
   std::string propertyName;  ///< display name
   bool settable = false;     ///< may be written, and may be reset
@@ -26,11 +26,11 @@ using PropertyMap = std::unordered_map<FuelGaugeProperty, PropertyInfo>;
 
 /// Writes the descriptor as one line of text and flushes the stream.
 /// @throws std::bad_variant_access when a descriptor that is not binary holds no string as its
-///         reset value; the text before that value is then written already
+///         reset value; the text before it has then been written
 KESP_EXPORT std::ostream& operator<<(std::ostream& os, const PropertyInfo& info);
 
 /// Reads the six fields in order, each as one word: name, flag, flag, location, reset text, flag.
-/// It does not read what `operator<<` writes. The stream's state tells whether all were read;
+/// It cannot read what `operator<<` writes. The stream's state tells whether all were read;
 /// fields read before a failure keep their new values.
 /// @throws std::bad_variant_access when `info.resetValue` holds no string, after four fields
 KESP_EXPORT std::istream& operator>>(std::istream& is, PropertyInfo& info);

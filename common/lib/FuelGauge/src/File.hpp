@@ -14,14 +14,14 @@
 
 namespace dral {
 
-/// An open file, closed with the object, which no program that another thread starts inherits. Nothing
-/// is thrown, and a call that a signal interrupts is made again.
+/// An open file, closed with the object. Programs that other threads start do not inherit it. It throws
+/// nothing, and retries calls that a signal interrupts.
 class File {
  public:
-  /// @param flags open(2)'s; a missing file is not made
+  /// @param flags open(2)'s; a missing file is not created
   File(const std::string& path, int flags) {
     do {
-      // The mode keeps a hardened C library from looking for a missing one at run time.
+      // The mode spares a hardened C library its run-time check for a missing one.
       descriptor = ::open(path.c_str(), flags | O_CLOEXEC, 0);
       error = descriptor < 0 ? errno : 0;
     } while (error == EINTR);
@@ -38,14 +38,14 @@ class File {
   File(const File&) = delete;
   File& operator=(const File&) = delete;
 
-  /// @return the errno of the call that failed, 0 while none has
+  /// @return the errno of the call that failed, 0 if none has
   int Error() const { return error; }
 
   /// Fills @p bytes, unless the file ends or the read fails.
-  /// @return how many came
+  /// @return how many were read
   std::size_t Read(std::span<char> bytes) { return Transfer(::read, bytes.data(), bytes.size()); }
 
-  /// Writes @p bytes, in one piece if the file takes them so.
+  /// Writes @p bytes, in one call if the file takes them all.
   void Write(std::string_view bytes) { Transfer(::write, bytes.data(), bytes.size()); }
 
  private:

@@ -10,8 +10,8 @@
 
 namespace dral {
 
-/// A record as its file holds it: the fields in order, the low byte of each first, then the reserved
-/// bytes. That is the record as it lies in memory, but for the byte order of a big-endian host.
+/// A record as its file holds it: the fields in order, little-endian, then the reserved bytes. A
+/// little-endian host has the same bytes in memory.
 using LifetimeDataBytes = std::array<char, 32>;
 
 /// From a host's byte order to the file's, or back.

@@ -13,8 +13,8 @@ inline constexpr auto LogFuelGauge = static_cast<LogCategory>(0x8004);
 }  // namespace dral
 
 /// Begins a log record: `KESP_LOG("Writable", LogFailure) << "text" << number;`. The pieces are
-/// joined as they are, and none of them is evaluated when the level is off. A class says its own name,
-/// the same from its header and its source, since compiler options may change `__FILE__`.
+/// joined as they are, and not evaluated when the level is off. A class gives its own name, the same in
+/// its header and its source, since compiler options may change `__FILE__`.
 #define KESP_LOG(name, level)                                                               \
   if (!::dral::LogClient::LevelIsEnabled(level)) {                                          \
   } else                                                                                    \

@@ -23,8 +23,8 @@ struct ReadAs {
     return {status, std::move(text)};
   }
 
-  // A failed read leaves no text, which is no number: the conversions below turn it into an
-  // exception, and so what they answer is always a success.
+  // A failed read leaves an empty text. The conversions below throw on it, so what they return is always
+  // a success.
   Answer operator()(int /*hint*/) const {
     const auto [status, text] = Readable::GetTextFileContents(location);
     return {status, int{DecimalToInt32(text)}};
@@ -83,7 +83,7 @@ std::pair<FuelGaugeStatus, std::string> Readable::GetTextFileContents(const std:
     count = file.Read(block);
     text.append(block.data(), count);
   } while (count == block.size());
-  // A dead bus shows up on read, not on open. What came before the error is no text to trust.
+  // A dead bus shows up on read, not on open. Text read before the error cannot be trusted.
   if (file.Error() != 0 || text.empty()) {
     KESP_LOG("Readable", LogFailure) << "Bad or No data encountered in file:" << path;
     return {FuelGaugeStatus::NoData, {}};

@@ -33,7 +33,7 @@ class KESP_EXPORT Readable {
 
   /// @tparam T a type with `Encode` and `Decode`, such as `LifetimeDataBytes.hpp` has for its record
   /// @return the record in the file at @p path; FileError and a default record; NoData and a default
-  ///         record whose first bytes are those that came before the end or the error
+  ///         record whose first bytes are those read before the end or the error
   template <typename T>
   static std::pair<FuelGaugeStatus, T> GetBinaryFileContents(const std::string& path);
 

@@ -16,15 +16,15 @@ class KESP_EXPORT Writable {
   Writable(const FuelGaugeProperty& property, const PropertyMap& propertyMap)
       : property(property), propertyMap(propertyMap) {}
 
-  /// Writes @p value, and answers as `WriteData`.
+  /// Writes @p value; returns what `WriteData` does.
   FuelGaugeStatus Set(PropertyValue value) const;
 
-  /// Writes the property's reset value, and answers as `WriteData`.
+  /// Writes the property's reset value; returns what `WriteData` does.
   FuelGaugeStatus Reset() const;
 
   /// Writes @p value, or the property's reset value when @p useGivenValue is false. A file that
-  /// does not exist is not made.
-  /// @return Success once the file was open, whatever became of the bytes; Failure when the
+  /// does not exist is not created.
+  /// @return Success once the file was open, whatever happened to the bytes; Failure when the
   ///         property is not settable; FileError when the file is missing or cannot be opened
   /// @throws std::logic_error when the map lacks the property
   FuelGaugeStatus WriteData(bool useGivenValue, PropertyValue value) const;

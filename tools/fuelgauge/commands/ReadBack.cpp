@@ -10,11 +10,9 @@ namespace fuelgauge {
 using dral::FuelGaugeStatus;
 
 ExitStatus Refused(const Gauge& gauge, const Property& property, FuelGaugeStatus status) {
-  std::string reason = "it is read-only";
-  if (status == FuelGaugeStatus::FileError) {
-    const Reading reading = gauge.Read(property);
-    reason = reading.status == status ? reading.Reason() : "no permission to write it";
-  }
+  const std::string reason = status == FuelGaugeStatus::FileError
+                                 ? WriteRefusal(gauge.File(property))
+                                 : "it is read-only";
   Complain(std::string(property.name) + ": not written: " + reason);
   return ToExitStatus(status);
 }

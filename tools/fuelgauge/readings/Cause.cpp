@@ -26,6 +26,7 @@ struct ErrorInfo {
 constexpr std::array Errors = {
     ErrorInfo{ENOENT, "ENOENT", "no such file"},
     ErrorInfo{EACCES, "EACCES", "no permission to read it"},
+    ErrorInfo{EISDIR, "EISDIR", "it is a folder"},
     ErrorInfo{ENODATA, "ENODATA", "the gauge has no value now"},
     ErrorInfo{EIO, "EIO", NoAnswer},
     ErrorInfo{EREMOTEIO, "EREMOTEIO", NoAnswer},
@@ -73,6 +74,15 @@ dral::FuelGaugeStatus Cause::Status(bool record) const {
     return FileError;
   }
   return text.empty() || record ? NoData : Failure;
+}
+
+std::string WriteRefusal(const std::string& path) {
+  const int file = Uninterrupted([&path] { return ::open(path.c_str(), O_WRONLY | O_CLOEXEC); });
+  if (file >= 0) {
+    ::close(file);
+    return "the file could not be opened, and could a moment later";
+  }
+  return errno == EACCES ? "no permission to write it (EACCES)" : ErrorText(errno);
 }
 
 std::string ErrorText(int error) {

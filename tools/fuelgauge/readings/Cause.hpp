@@ -19,6 +19,9 @@ struct Cause {
   dral::FuelGaugeStatus Status(bool record) const;
 };
 
+/// @return why the file at @p path cannot be opened for writing, in words
+std::string WriteRefusal(const std::string& path);
+
 /// @return @p error in words and by its name, such as "no such file (ENOENT)"
 std::string ErrorText(int error);
 

@@ -63,6 +63,11 @@ Readings Gauge::ReadAll() const {
   return Readings(std::move(readings));
 }
 
+std::string Gauge::File(const Property& property) const {
+  const auto file = files->find(property.id);
+  return file != files->end() ? file->second.location : "";
+}
+
 std::string Gauge::Missing(const Readings& readings) const {
   return "no property could be read in '" + folder + "': " + readings.Telling().Reason();
 }

@@ -35,6 +35,9 @@ class Gauge {
   /// Reads the sixteen properties that have a file.
   Readings ReadAll() const;
 
+  /// @return the path of the property's file; empty when it has none
+  std::string File(const Property& property) const;
+
   /// @return what to say when not one of @p readings succeeded
   std::string Missing(const Readings& readings) const;
 

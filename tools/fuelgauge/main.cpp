@@ -18,11 +18,6 @@
 namespace fuelgauge {
 namespace {
 
-// An empty name, as from a script's unset variable, must not mean the real gauge, or no file.
-std::string NotEmpty(const std::string& name) {
-  return name.empty() ? "the name is empty" : "";
-}
-
 // Whether nobody reads the output any more, as after `fuelgauge list | head -1`: no fault of ours.
 bool ReaderIsGone() {
   pollfd output{STDOUT_FILENO, POLLOUT, 0};

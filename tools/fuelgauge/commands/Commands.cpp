@@ -13,4 +13,8 @@ const std::vector<Command> Commands = {
     {"check", "Tell whether the gauge makes sense", AddCheck},
 };
 
+std::string NotEmpty(const std::string& name) {
+  return name.empty() ? "the name is empty" : "";
+}
+
 }  // namespace fuelgauge

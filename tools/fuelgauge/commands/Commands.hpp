@@ -3,6 +3,7 @@
 
 #include <CLI/CLI.hpp>
 #include <functional>
+#include <string>
 #include <vector>
 
 #include "commands/ExitStatus.hpp"
@@ -24,6 +25,9 @@ struct Command {
 
 /// All of them. To add one is to add its file, its function here and its line in the table.
 extern const std::vector<Command> Commands;
+
+/// Refuses an empty name, as from a script's unset variable: it must not mean the real gauge, or no file.
+std::string NotEmpty(const std::string& name);
 
 Action AddList(CLI::App& parser);
 Action AddGet(CLI::App& parser);

@@ -33,7 +33,8 @@ Action AddMetrics(CLI::App& parser) {
   parser
       .add_option("--output", *output,
                   "Put the text in place as this file, whole; links are followed")
-      ->type_name("FILE");
+      ->type_name("FILE")
+      ->check(NotEmpty);
   return [output](const GaugeOptions& which) { return Metrics(Gauge(which), *output); };
 }
 

@@ -39,7 +39,7 @@ std::uint32_t LevelFromEnvironment() {
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), level);
   if (error != std::errc() || end != text.data() + text.size()) {
     WriteToStandardError("<4>KESP_LOG_LEVEL='" + Visible(text) +
-                         "' is not a number; logging errors only\n");
+                         "' is not a number from 0 to 4294967295; logging errors only\n");
     return DefaultLevel;
   }
   return level;

@@ -7,13 +7,6 @@
 namespace fuelgauge {
 namespace {
 
-std::string_view FirstCharacter(std::string_view text) {
-  const auto* const next = std::find_if(text.begin() + 1, text.end(), [](char byte) {
-    return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U;
-  });
-  return text.substr(0, static_cast<std::size_t>(next - text.begin()));
-}
-
 // Not by wcwidth, which goes by the global locale. Bytes of UTF-8 are in the order of the characters.
 std::size_t ColumnsOf(std::string_view character) {
   const auto within = [character](std::string_view first, std::string_view end) {
@@ -25,6 +18,13 @@ std::size_t ColumnsOf(std::string_view character) {
 }
 
 }  // namespace
+
+std::string_view FirstCharacter(std::string_view text) {
+  const auto* const next = std::find_if(text.begin() + 1, text.end(), [](char byte) {
+    return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U;
+  });
+  return text.substr(0, static_cast<std::size_t>(next - text.begin()));
+}
 
 std::size_t Columns(std::string_view text) {
   std::size_t columns = 0;

@@ -6,6 +6,9 @@
 
 namespace fuelgauge {
 
+/// @return the first character of @p text (UTF-8), which is not empty
+std::string_view FirstCharacter(std::string_view text);
+
 /// @return how many columns of a terminal @p text (UTF-8) takes. A character that some terminals show
 ///         narrow and others wide counts as wide.
 std::size_t Columns(std::string_view text);

@@ -34,6 +34,8 @@ TEST(Output, TextCannotSteerATerminal) {
   EXPECT_EQ(TerminalSafe("\xC2\x9B"
                          "2J\xC2\x80 \xC2\xA0"),
             "\\u009b2J\\u0080 \xC2\xA0");
+  EXPECT_EQ(TerminalSafe("\u061C \u200F \u202E \u2069 \u206A電"),
+            "\\u061c \\u200f \\u202e \\u2069 \u206A電");
   EXPECT_EQ(TerminalSafe("\x9B\xC3("), "\uFFFD\uFFFD(");
   EXPECT_EQ(CsvField("a,\"b\"\n"), "\"a,\"\"b\"\"\\u000a\"");
 }

@@ -28,7 +28,13 @@ const std::string& NameOf(Severity severity) {
       ->first;
 }
 
-// Such as "Status Discharging, CurrentNow 412 mA".
+// In quotes, since a blank may be what is wrong with a text.
+std::string ValueForPeople(const Reading& reading) {
+  const auto text = reading.Text();
+  return text ? "'" + std::string(*text) + "'" : reading.ForPeople();
+}
+
+// Such as "Status 'Discharging', CurrentNow 412 mA".
 std::string ValuesForPeople(const Evidence& evidence, const Readings& readings) {
   std::string values;
   const auto add = [&values](std::string_view name, std::string_view between,
@@ -38,7 +44,7 @@ std::string ValuesForPeople(const Evidence& evidence, const Readings& readings) 
   for (const auto id : evidence.properties) {
     const Reading& reading = readings[id];
     add(reading.property->name, reading.Succeeded() ? " " : ": ",
-        reading.Succeeded() ? reading.ForPeople() : reading.Reason());
+        reading.Succeeded() ? ValueForPeople(reading) : reading.Reason());
   }
   for (const LifetimeField* field : evidence.fields) {
     add(field->name, " ", ForPeople(field->Value(*readings.Record()), field->unit));

@@ -51,7 +51,10 @@ std::string Raw(std::int64_t number, Unit unit) {
 std::string ForPeople(std::int64_t number, Unit unit) {
   const UnitInfo& info = Info(unit);
   const std::int64_t magnitude = (std::abs(number) + info.divisor / 2) / info.divisor;
-  std::string text = number < 0 && magnitude != 0 ? "-" : "";
+  if (magnitude == 0 && number != 0) {
+    return Raw(number, unit);
+  }
+  std::string text = number < 0 ? "-" : "";
   if (unit == Unit::Second) {
     return text.append(std::to_string(magnitude / 60))
         .append(":")

@@ -23,7 +23,8 @@ enum class Unit {
 /// @return @p number as it was read, such as "3786000 µV"
 std::string Raw(std::int64_t number, Unit unit);
 
-/// @return @p number in the unit that people use, such as "3.786 V"; rounded to its last digit
+/// @return @p number in the unit that people use, such as "3.786 V"; rounded to its last digit, or as
+///         it was read where that would make it 0
 std::string ForPeople(std::int64_t number, Unit unit);
 
 }  // namespace fuelgauge

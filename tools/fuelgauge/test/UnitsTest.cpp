@@ -14,10 +14,11 @@ TEST(Units, NumbersReadAsPeopleSayThem) {
   };
   const Case cases[] = {
       {3942000, Unit::Microvolt, "3.942 V"},
-      {499, Unit::Microvolt, "0.000 V"},
+      {499, Unit::Microvolt, "499 µV"},
       {-432327, Unit::Microampere, "-432 mA"},
-      {-499, Unit::Microampere, "0 mA"},
+      {-499, Unit::Microampere, "-499 µA"},
       {500, Unit::Microampere, "1 mA"},
+      {0, Unit::Microampere, "0 mA"},
       {65535, Unit::Percent, "65535 %"},
       {-5, Unit::TenthDegreeCelsius, "-0.5 °C"},
       {-2731, Unit::TenthDegreeCelsius, "-273.1 °C"},

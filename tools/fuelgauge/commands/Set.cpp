@@ -38,6 +38,7 @@ ExitStatus Set(const Gauge& gauge, const SetOptions& options) {
   for (const std::string& value : options.values) {
     Assign(record, value);
   }
+  RefuseCrossed(record, fields);
   if (const FuelGaugeStatus written = gauge->Set(property.id, record);
       written != FuelGaugeStatus::Success) {
     return Refused(gauge, property, written);

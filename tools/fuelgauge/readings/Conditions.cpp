@@ -136,9 +136,11 @@ bool PowerZero(const Readings& readings) {
 }
 
 bool CrossedField(const dral::LifetimeData& record, const LifetimeField& field) {
-  return field.name.ends_with("Temp")          ? record.minTemp > record.maxTemp
-         : field.name.ends_with("PackVoltage") ? record.minPackVoltage > record.maxPackVoltage
-                                               : false;
+  return std::any_of(LifetimeRanges.begin(), LifetimeRanges.end(), [&](const auto& range) {
+    const auto [minimum, maximum] = range;
+    return (&field == minimum || &field == maximum) &&
+           minimum->Value(record) > maximum->Value(record);
+  });
 }
 
 // Low charge raises Dead as well, and the weather Cold and Hot.

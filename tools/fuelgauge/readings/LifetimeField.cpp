@@ -23,6 +23,9 @@ const std::array<LifetimeField, 6> LifetimeFields = {{
      dral::LifetimeData::LifetimeMinCurrent, dral::LifetimeData::LifetimeMaxCurrent},
 }};
 
+const std::array<std::pair<const LifetimeField*, const LifetimeField*>, 2> LifetimeRanges = {
+    {{&LifetimeFields[1], &LifetimeFields[0]}, {&LifetimeFields[3], &LifetimeFields[2]}}};
+
 int LifetimeField::Value(const dral::LifetimeData& data) const {
   return std::visit([&data](auto pointer) { return int{data.*pointer}; }, member);
 }
@@ -66,6 +69,19 @@ void Assign(dral::LifetimeData& data, std::string_view assignment) {
   }
   const LifetimeField& field = FindField(assignment.substr(0, equals));
   field.Store(data, field.Parse(assignment.substr(equals + 1)));
+}
+
+void RefuseCrossed(const dral::LifetimeData& data, const std::set<std::string>& named) {
+  const auto text = [&data](const LifetimeField& field) {
+    return std::string(field.name) + " " + std::to_string(field.Value(data));
+  };
+  for (const auto& [minimum, maximum] : LifetimeRanges) {
+    if (minimum->Value(data) > maximum->Value(data) &&
+        (named.contains(std::string(minimum->name)) ||
+         named.contains(std::string(maximum->name)))) {
+      throw UsageError(text(*minimum) + " would be above " + text(*maximum));
+    }
+  }
 }
 
 }  // namespace fuelgauge

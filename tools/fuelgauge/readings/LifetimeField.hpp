@@ -4,7 +4,10 @@
 #include <LifetimeData.hpp>
 #include <array>
 #include <cstdint>
+#include <set>
+#include <string>
 #include <string_view>
+#include <utility>
 #include <variant>
 
 #include "readings/Units.hpp"
@@ -32,11 +35,18 @@ struct LifetimeField {
 /// In the record's order.
 extern const std::array<LifetimeField, 6> LifetimeFields;
 
+/// Those of which one must not be above the other: the minimum first.
+extern const std::array<std::pair<const LifetimeField*, const LifetimeField*>, 2> LifetimeRanges;
+
 /// @throws UsageError when there is none of that name
 const LifetimeField& FindField(std::string_view name);
 
 /// Carries out one "FIELD=VALUE" on @p data.
 /// @throws UsageError naming what is wrong; @p data is then unchanged
 void Assign(dral::LifetimeData& data, std::string_view assignment);
+
+/// @throws UsageError naming a minimum in @p data that is above its maximum, where one of the two is
+///         among the @p named fields
+void RefuseCrossed(const dral::LifetimeData& data, const std::set<std::string>& named);
 
 }  // namespace fuelgauge

@@ -26,8 +26,9 @@ void CheckLifetimeFile(const std::string& path) {
     refuse("it cannot be opened");
   }
   std::set<std::string> fields;
-  for (std::string name, value; file >> name;) {
-    try {
+  dral::LifetimeData record;
+  try {
+    for (std::string name, value; file >> name;) {
       const LifetimeField& field = FindField(name);
       if (!fields.insert(name).second) {
         throw UsageError(name + ": the field is named twice");
@@ -35,10 +36,11 @@ void CheckLifetimeFile(const std::string& path) {
       if (!(file >> value)) {
         throw UsageError(name + ": there is no value");
       }
-      field.Parse(value);
-    } catch (const UsageError& error) {
-      refuse(error.what());
+      field.Store(record, field.Parse(value));
     }
+    RefuseCrossed(record, fields);
+  } catch (const UsageError& error) {
+    refuse(error.what());
   }
   if (file.bad()) {
     refuse("it cannot be read to its end");

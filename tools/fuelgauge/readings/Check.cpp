@@ -1,25 +1,39 @@
 // SPDX-License-Identifier: MIT
 #include "readings/Check.hpp"
 
-#include <set>
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace fuelgauge {
+namespace {
+
+bool Silences(const Finding& finding, const Finding& other) {
+  const auto& rules = finding.rule->silences;
+  const auto& registers = finding.evidence.properties;
+  return std::find(rules.begin(), rules.end(), other.rule->name) != rules.end() &&
+         std::find_first_of(registers.begin(), registers.end(), other.evidence.properties.begin(),
+                            other.evidence.properties.end()) != registers.end();
+}
+
+}  // namespace
 
 std::vector<Finding> Check(const Readings& readings) {
   std::vector<Finding> findings;
-  std::set<std::string_view> silenced;
   for (const Rule& rule : Rules) {
     Evidence evidence = rule.find(readings);
     if (!evidence.properties.empty() || !evidence.fields.empty()) {
       findings.push_back({&rule, std::move(evidence)});
-      silenced.insert(rule.silences.begin(), rule.silences.end());
     }
   }
-  std::erase_if(findings, [&silenced](const Finding& finding) {
-    return silenced.contains(finding.rule->name);
-  });
-  return findings;
+  std::vector<Finding> told;
+  std::copy_if(findings.begin(), findings.end(), std::back_inserter(told),
+               [&findings](const Finding& finding) {
+                 return std::none_of(
+                     findings.begin(), findings.end(),
+                     [&finding](const Finding& each) { return Silences(each, finding); });
+               });
+  return told;
 }
 
 }  // namespace fuelgauge

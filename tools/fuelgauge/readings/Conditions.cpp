@@ -15,6 +15,9 @@ namespace {
 
 using Id = dral::FuelGaugeProperty;
 
+// As the kernel shows a temperature register of 0.
+constexpr int ZeroKelvin = -2731;
+
 // The number, or one that breaks no rule when it was not read.
 int NumberOr(const Readings& readings, Id id, int otherwise) {
   return readings.Number(id).value_or(otherwise);
@@ -48,15 +51,29 @@ bool AllOnes(const Reading& reading) {
     case Unit::Microvolt:
     case Unit::MicroampereHour:
       return reading.Number() == 65535000;
+    case Unit::TenthDegreeCelsius:
+      return reading.Number() == 65535 + ZeroKelvin;
     default:  // signed, or computed
       return false;
   }
 }
 
-// A temperature register of 0 kelvin shows as -2731.
-bool AllZero(const Reading& reading) {
-  return (reading.property->id == Temperature && reading.Number() == -2731) ||
-         (reading.property->id == VoltageNow && reading.Number() == 0);
+bool NeverZero(const Reading& reading) {
+  const Id id = reading.property->id;
+  return (id == Temperature || id == VoltageNow) && Zero(reading);
+}
+
+bool Zero(const Reading& reading) {
+  switch (reading.property->unit) {
+    case Unit::TenthDegreeCelsius:
+      return reading.Number() == ZeroKelvin;
+    case Unit::Microvolt:
+    case Unit::Percent:
+    case Unit::MicroampereHour:
+      return reading.Number() == 0;
+    default:
+      return false;
+  }
 }
 
 bool Negative(const Reading& reading) {
@@ -110,6 +127,9 @@ bool LevelContradicts(const Readings& readings) {
 // Healthy gauges were seen a dozen points apart. The charge now is not compensated for load and
 // temperature, the other two are: cold or under load it may be far above what the percent say.
 bool ChargesDisagree(const Readings& readings) {
+  if (Uncalibrated(readings)) {
+    return false;  // the gauge guesses, and says so
+  }
   const double full = NumberOr(readings, FullChargeCapacity, 0);
   const double now = NumberOr(readings, NominalAvailableCapacity, -1);
   const int percent = NumberOr(readings, StateOfCharge, -1);

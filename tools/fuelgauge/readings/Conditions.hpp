@@ -10,7 +10,8 @@ namespace fuelgauge {
 
 bool Missing(const Reading& reading);
 bool AllOnes(const Reading& reading);
-bool AllZero(const Reading& reading);
+bool Zero(const Reading& reading);
+bool NeverZero(const Reading& reading);
 bool Negative(const Reading& reading);
 bool UnknownWord(const Reading& reading);
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "readings/Rules.hpp"
 
+#include <algorithm>
+
 #include "readings/Conditions.hpp"
 
 namespace fuelgauge {
@@ -30,6 +32,14 @@ Find Each(bool (*broken)(const Reading&)) {
       }
     }
     return evidence;
+  };
+}
+
+// Shows those that are @p suspect when one is @p broken, which makes the others doubtful.
+Find EachIfAny(bool (*suspect)(const Reading&), bool (*broken)(const Reading&)) {
+  return [suspect, broken](const Readings& readings) {
+    return std::any_of(readings.begin(), readings.end(), broken) ? Each(suspect)(readings)
+                                                                 : Evidence{};
   };
 }
 
@@ -67,7 +77,7 @@ const std::vector<Rule> Rules = {
     {"all-zero",
      Error,
      "registers read zero: the chip was not ready for these reads, or is not there",
-     Each(AllZero),
+     EachIfAny(Zero, NeverZero),
      {"charge-full", "charges-disagree", "full-early", "level", "temperature-range",
       "voltage-range"}},
     {"no-battery", Error, "the kernel sees no battery, or its bus is dead", Outside(Present, 1, 1)},
@@ -84,7 +94,7 @@ const std::vector<Rule> Rules = {
     {"temperature-range", Error, "the gauge measures from -60 to 140 °C: its sensor is broken",
      Outside(Temperature, dral::LifetimeData::LifetimeMinTemp,
              dral::LifetimeData::LifetimeMaxTemp)},
-    {"negative", Error, "what is counted is not below 0", Each(Negative), {"charges-disagree"}},
+    {"negative", Error, "what is counted is not below 0", Each(Negative)},
     {"unknown-word", Warning, "the kernel has no such word", Each(UnknownWord), {"health"}},
     {"current-sign", Warning,
      "the current flows the other way than the status says: some kernels turn the sign",
@@ -113,11 +123,9 @@ const std::vector<Rule> Rules = {
      "a current flows and the mean power is 0: a load that has just begun or, when it stays so, a "
      "chip that does not measure it",
      When({PowerAverage, VoltageNow, CurrentNow}, PowerZero)},
-    {"calibration",
-     Notice,
+    {"calibration", Notice,
      "the gauge wants a learning cycle, a full discharge and charge; until then it guesses",
-     When({Health}, Uncalibrated),
-     {"charges-disagree"}},
+     When({Health}, Uncalibrated)},
     {"out-of-comfort", Notice, "the battery is colder or hotter than it likes",
      When({Health}, OutOfComfort)},
 };

@@ -28,8 +28,8 @@ struct Rule {
   Severity severity;
   std::string_view reason;  ///< what a finding means
   std::function<Evidence(const Readings& readings)> find;
-  std::vector<std::string_view> silences =
-      {};  ///< rules whose findings would only follow from this
+  /// Rules whose findings only follow from this, where they show one of the same properties.
+  std::vector<std::string_view> silences = {};
 };
 
 /// All of them. To add one is to add a line.

@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "commands/Commands.hpp"
+#include "commands/RecordLock.hpp"
 #include "output/Message.hpp"
 #include "readings/UsageError.hpp"
 
@@ -103,6 +104,9 @@ ExitStatus RunAndReport(int argc, char** argv) {
   } catch (const UsageError& error) {
     Complain(error.what());
     return ExitStatus::Usage;
+  } catch (const RecordBusy& error) {
+    Complain(error.what());
+    return ExitStatus::Busy;
   } catch (const std::exception& error) {
     Complain(error.what());
     return ExitStatus::Software;

@@ -16,6 +16,7 @@ enum class ExitStatus : int {
   Usage = 64,           ///< bad words on the command line (EX_USAGE)
   Software = 70,        ///< out of memory, or a fault of ours (EX_SOFTWARE)
   OutputError = 74,     ///< the output could not be written (EX_IOERR)
+  Busy = 75,            ///< another process holds the record's lock (EX_TEMPFAIL)
 };
 
 constexpr ExitStatus ToExitStatus(dral::FuelGaugeStatus status) {

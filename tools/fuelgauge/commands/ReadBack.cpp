@@ -10,9 +10,8 @@ namespace fuelgauge {
 using dral::FuelGaugeStatus;
 
 ExitStatus Refused(const Gauge& gauge, const Property& property, FuelGaugeStatus status) {
-  const std::string reason = status == FuelGaugeStatus::FileError
-                                 ? WriteRefusal(gauge.File(property))
-                                 : "it is read-only";
+  const std::string reason =
+      status == FuelGaugeStatus::FileError ? WriteRefusal(gauge.File(property)) : "it is read-only";
   Complain(std::string(property.name) + ": not written: " + reason);
   return ToExitStatus(status);
 }

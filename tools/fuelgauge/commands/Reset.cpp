@@ -3,12 +3,14 @@
 
 #include "commands/Commands.hpp"
 #include "commands/ReadBack.hpp"
+#include "commands/RecordLock.hpp"
 
 namespace fuelgauge {
 namespace {
 
 ExitStatus Reset(const Gauge& gauge, const std::string& name) {
   const Property& property = FindProperty(name);
+  const RecordLock lock(gauge.File(property));
   if (const auto status = gauge->Reset(property.id); status != dral::FuelGaugeStatus::Success) {
     return Refused(gauge, property, status);
   }

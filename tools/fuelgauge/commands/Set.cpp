@@ -4,6 +4,7 @@
 
 #include "commands/Commands.hpp"
 #include "commands/ReadBack.hpp"
+#include "commands/RecordLock.hpp"
 #include "readings/LifetimeField.hpp"
 #include "readings/UsageError.hpp"
 
@@ -30,6 +31,7 @@ ExitStatus Set(const Gauge& gauge, const SetOptions& options) {
       throw UsageError("'" + value + "': the field is named twice");
     }
   }
+  const RecordLock lock(gauge.File(property));
   const Reading held = gauge.Read(property);
   if (held.Record() == nullptr) {
     return Unreadable(held, "; nothing was written");

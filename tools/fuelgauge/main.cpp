@@ -7,6 +7,7 @@
 #include <cstdlib>
 #include <exception>
 #include <iostream>
+#include <new>
 #include <string>
 #include <utility>
 #include <vector>
@@ -107,6 +108,9 @@ ExitStatus RunAndReport(int argc, char** argv) {
   } catch (const RecordBusy& error) {
     Complain(error.what());
     return ExitStatus::Busy;
+  } catch (const std::bad_alloc&) {
+    std::cerr << "fuelgauge: out of memory\n";  // needs none
+    return ExitStatus::Software;
   } catch (const std::exception& error) {
     Complain(error.what());
     return ExitStatus::Software;

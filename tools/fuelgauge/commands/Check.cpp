@@ -106,7 +106,7 @@ ExitStatus Check(const Gauge& gauge, const CheckOptions& options) {
   }
   if (!readings.AnySucceeded()) {
     Complain(gauge.Missing(readings));
-    return ToExitStatus(readings.Telling().status);
+    return ToExitStatus(readings.Telling());
   }
   const Severity least = Severities.at(options.severity);
   const bool wrong = std::any_of(findings.begin(), findings.end(), [least](const Finding& each) {

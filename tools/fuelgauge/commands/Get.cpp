@@ -62,7 +62,7 @@ ExitStatus Get(const Gauge& gauge, const GetOptions& options) {
   if (!reading.Succeeded()) {
     Complain(options.property + ": " + reading.Reason());
   }
-  return ToExitStatus(reading.status);
+  return ToExitStatus(reading);
 }
 
 }  // namespace

@@ -33,7 +33,7 @@ ExitStatus List(const Gauge& gauge, bool json) {
   }
   if (!readings.AnySucceeded()) {
     Complain(gauge.Missing(readings));
-    return ToExitStatus(readings.Telling().status);
+    return ToExitStatus(readings.Telling());
   }
   return ExitStatus::Success;
 }

@@ -19,7 +19,7 @@ ExitStatus Refused(const Gauge& gauge, const Property& property, FuelGaugeStatus
 ExitStatus Unreadable(const Reading& reading, std::string_view consequence) {
   Complain(std::string(reading.property->name) + ": " + reading.Reason() +
            std::string(consequence));
-  return ToExitStatus(reading.status);
+  return ToExitStatus(reading);
 }
 
 ExitStatus ReadBack(const Gauge& gauge, const Property& property,

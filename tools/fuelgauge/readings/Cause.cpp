@@ -2,6 +2,7 @@
 #include "readings/Cause.hpp"
 
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -9,6 +10,7 @@
 #include <cerrno>
 #include <cstring>
 #include <string_view>
+#include <utility>
 
 namespace fuelgauge {
 namespace {
@@ -37,6 +39,13 @@ constexpr std::array Errors = {
     ErrorInfo{ENODEV, "ENODEV", "the gauge has gone, or does not answer"},
 };
 
+// Far more than any attribute has.
+constexpr std::size_t Most = 65536;
+
+std::string TooLarge(const std::string& path, const std::string& size) {
+  return "'" + path + "' has " + size + " bytes, which no attribute has";
+}
+
 // @return what @p call gives once no signal interrupts it
 template <typename Call>
 auto Uninterrupted(Call call) {
@@ -49,6 +58,16 @@ auto Uninterrupted(Call call) {
 
 }  // namespace
 
+Cause Cause::OfSize(const std::string& path) {
+  Cause cause;
+  struct stat status {};
+  if (::stat(path.c_str(), &status) == 0 && S_ISREG(status.st_mode) &&
+      std::cmp_greater(status.st_size, Most)) {
+    cause.tooLarge = TooLarge(path, std::to_string(status.st_size));
+  }
+  return cause;
+}
+
 Cause Cause::Of(const std::string& path) {
   Cause cause;
   const int file = Uninterrupted([&path] { return ::open(path.c_str(), O_RDONLY | O_CLOEXEC); });
@@ -57,14 +76,20 @@ Cause Cause::Of(const std::string& path) {
     return cause;
   }
   cause.opened = true;
-  std::array<char, 4096> page{};  // the most that an attribute holds
-  const auto count = Uninterrupted([&] { return ::read(file, page.data(), page.size()); });
-  if (count < 0) {
-    cause.error = errno;
-  } else {
-    cause.text.assign(page.data(), static_cast<std::size_t>(count));
-  }
+  std::array<char, 4096> page{};  // the most that an attribute of text holds
+  ssize_t count = 0;
+  do {
+    count = Uninterrupted([&] { return ::read(file, page.data(), page.size()); });
+    cause.error = count < 0 ? errno : 0;
+    cause.text.append(page.data(), static_cast<std::size_t>(std::max<ssize_t>(count, 0)));
+  } while (count > 0 && cause.text.size() <= Most);
   ::close(file);
+  if (cause.text.size() > Most) {
+    cause.tooLarge = TooLarge(path, "more than " + std::to_string(Most));
+  }
+  if (cause.error != 0 || !cause.tooLarge.empty()) {
+    cause.text.clear();
+  }
   return cause;
 }
 
@@ -73,7 +98,7 @@ dral::FuelGaugeStatus Cause::Status(bool record) const {
   if (!opened) {
     return FileError;
   }
-  return text.empty() || record ? NoData : Failure;
+  return tooLarge.empty() && (text.empty() || record) ? NoData : Failure;
 }
 
 std::string WriteRefusal(const std::string& path) {

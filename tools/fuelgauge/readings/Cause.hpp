@@ -9,8 +9,12 @@ namespace fuelgauge {
 /// Why a value is missing: what the system answers for its file.
 struct Cause {
   bool opened = false;
-  int error = 0;     ///< the errno of opening or reading it; 0: it was read
-  std::string text;  ///< what was read, which is then not the value asked for
+  int error = 0;         ///< the errno of opening or reading it; 0: it was read
+  std::string text;      ///< what was read, which is then not the value asked for
+  std::string tooLarge;  ///< the file and its size, in words, when no attribute has that size
+
+  /// Looks at the size of the file at @p path, without opening it.
+  static Cause OfSize(const std::string& path);
 
   /// Asks for the file at @p path, now.
   static Cause Of(const std::string& path);

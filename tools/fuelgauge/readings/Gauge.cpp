@@ -28,19 +28,24 @@ Gauge::Gauge(const GaugeOptions& which)
 }
 
 Reading Gauge::Read(const Property& property, Type type) const {
+  const std::string path = File(property);
+  Cause cause = Cause::OfSize(path);
+  if (!cause.tooLarge.empty()) {  // the library would read it to its end
+    return {&property, FuelGaugeStatus::Failure, Hint(type), std::move(cause)};
+  }
   auto [status, value] = gauge->Get(property.id, Hint(type));
-  const auto file = files->find(property.id);
-  if (status == FuelGaugeStatus::Success || file == files->end()) {
+  if (status == FuelGaugeStatus::Success || path.empty()) {
     return {&property, status, std::move(value)};
   }
-  Cause cause = Cause::Of(file->second.location);
+  cause = Cause::Of(path);
   // It may have come back since. On a bus that fails now and then, the two have to agree.
   constexpr int Tries = 3;
-  for (int again = 0; again < Tries && cause.error == 0 && status != FuelGaugeStatus::Success;
+  for (int again = 0; again < Tries && cause.error == 0 && cause.tooLarge.empty() &&
+                      status != FuelGaugeStatus::Success;
        ++again) {
     std::tie(status, value) = gauge->Get(property.id, Hint(type));
     if (status != FuelGaugeStatus::Success) {
-      cause = Cause::Of(file->second.location);
+      cause = Cause::Of(path);
     }
   }
   if (status != FuelGaugeStatus::Success) {

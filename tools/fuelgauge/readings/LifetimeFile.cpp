@@ -21,6 +21,11 @@ void CheckLifetimeFile(const std::string& path) {
   if (::stat(path.c_str(), &status) != 0 || !S_ISREG(status.st_mode)) {
     refuse("no such regular file");
   }
+  constexpr int Most = 65536;
+  if (status.st_size > Most) {
+    refuse("it has " + std::to_string(status.st_size) + " bytes, more than " +
+           std::to_string(Most));
+  }
   std::ifstream file(path);
   if (!file) {
     refuse("it cannot be opened");

@@ -55,8 +55,9 @@ RecordLock::RecordLock(const std::string& path)
     if (steady_clock::now() >= end) {
       const std::string holder = Holder(file);
       ::close(file);
-      throw RecordBusy("not written: waited " + std::to_string(Patience.count()) + " s for " +
-                       holder + ", which holds a lock on '" + path + "'");
+      std::string text = "not written: waited ";
+      text.append(std::to_string(Patience.count())).append(" s for ").append(holder);
+      throw RecordBusy(text.append(", which holds a lock on '").append(path).append("'"));
     }
     std::this_thread::sleep_for(Pause);
   }

@@ -8,12 +8,13 @@
 namespace fuelgauge {
 namespace {
 
-bool Silences(const Finding& finding, const Finding& other) {
-  const auto& rules = finding.rule->silences;
-  const auto& registers = finding.evidence.properties;
-  return std::find(rules.begin(), rules.end(), other.rule->name) != rules.end() &&
-         std::find_first_of(registers.begin(), registers.end(), other.evidence.properties.begin(),
-                            other.evidence.properties.end()) != registers.end();
+bool Silences(const Finding& cause, const Finding& consequence) {
+  const auto& rules = cause.rule->silences;
+  const auto& registers = cause.evidence.properties;
+  const auto& others = consequence.evidence.properties;
+  return std::find(rules.begin(), rules.end(), consequence.rule->name) != rules.end() &&
+         std::find_first_of(registers.begin(), registers.end(), others.begin(), others.end()) !=
+             registers.end();
 }
 
 }  // namespace

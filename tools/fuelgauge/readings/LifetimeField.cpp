@@ -24,7 +24,7 @@ const std::array<LifetimeField, 6> LifetimeFields = {{
 }};
 
 const std::array<std::pair<const LifetimeField*, const LifetimeField*>, 2> LifetimeRanges = {
-    {{&LifetimeFields[1], &LifetimeFields[0]}, {&LifetimeFields[3], &LifetimeFields[2]}}};
+    {{&LifetimeFields[1], LifetimeFields.data()}, {&LifetimeFields[3], &LifetimeFields[2]}}};
 
 int LifetimeField::Value(const dral::LifetimeData& data) const {
   return std::visit([&data](auto pointer) { return int{data.*pointer}; }, member);

@@ -5,10 +5,7 @@
 #include <cstdlib>
 #include <stdexcept>
 
-using dral::LogCategory;
-using dral::LogClient;
-using dral::LogLevel;
-using dral::LogOutput;
+using namespace dral;
 
 namespace {
 
@@ -29,40 +26,35 @@ TEST(LogOutput, LinesAreWhatJournaldReads) {
 
 TEST(LogOutput, PiecesAreJoinedAndAFlushSplitsNothing) {
   std::string text;
-  LogOutput::SetSink([&text](const dral::LogRecord& record) { text += record.text + "|"; });
-  LogClient("s", "f", 1, LogLevel{3}, LogCategory{1}) << "a" << 4200 << std::string("b") << -1;
-  LogOutput::SetSink([](const dral::LogRecord&) { throw std::runtime_error("full"); });
+  LogOutput::SetSink([&text](const LogRecord& record) { text += record.text + "|"; });
+  LogClient("s", "f", 1, LogLevel{3}, LogCategory{1})
+      << "a" << 4200 << std::flush<char, std::char_traits<char>> << -1;
+  EXPECT_EQ(text, "a4200-1|");
+  LogOutput::SetSink([](const LogRecord&) { throw std::runtime_error("full"); });
   EXPECT_EQ(Emitted(3, "x"), "<3>a log record was lost: out of memory, or its sink threw\n");
   LogOutput::SetSink({});
-  EXPECT_EQ(text, "a4200b-1|");
 }
 
 TEST(LogOutput, LevelComesFromTheEnvironmentAndThenFromTheProgram) {
-  const auto highest = [](const char* environment) {
+  const auto expect = [](const char* environment, int highest, const char* message) {
     // In a process of its own, which has not asked yet.
     EXPECT_EXIT(
         {
           environment != nullptr ? ::setenv("KESP_LOG_LEVEL", environment, 1)
                                  : ::unsetenv("KESP_LOG_LEVEL");
-          int level = 9;
-          while (level >= 0 && !LogClient::LevelIsEnabled(LogLevel{static_cast<unsigned>(level)})) {
+          unsigned level = 9;
+          while (level > 0 && !LogClient::LevelIsEnabled(LogLevel{level})) {
             --level;
           }
-          std::_Exit(level + 1);
+          std::_Exit(static_cast<int>(level));
         },
-        [environment](int status) {
-          const int wanted = environment == std::string("8")   ? 8
-                             : environment == std::string("0") ? 0
-                                                               : 3;
-          return WEXITSTATUS(status) == wanted + 1;
-        },
-        environment != nullptr && environment == std::string("loud\n<0>x")
-            ? R"(^<4>KESP_LOG_LEVEL='loud\\x0a<0>x' is not a number)"
-            : "");
+        testing::ExitedWithCode(highest), message);
   };
-  highest("8");
-  highest("0");
-  highest("loud\n<0>x");
+  expect(nullptr, 3, "^$");
+  expect("8", 8, "^$");
+  expect("0", 0, "^$");
+  expect("3x", 3, "^<4>KESP_LOG_LEVEL='3x' is not a number; logging errors only\n$");
+  expect("loud\n<0>x", 3, R"(^<4>KESP_LOG_LEVEL='loud\\x0a<0>x' is not a number)");
   LogOutput::SetLevel(LogLevel{6});
   EXPECT_TRUE(LogClient::LevelIsEnabled(LogLevel{6}));
   EXPECT_FALSE(LogClient::LevelIsEnabled(LogLevel{7}));

@@ -1,178 +1,118 @@
 // SPDX-License-Identifier: MIT
+#include <Bq27542FuelGauge.hpp>
+
 #include <gtest/gtest.h>
 #include <sys/stat.h>
-#include <Bq27542FuelGauge.hpp>
 
 #include <algorithm>
 #include <chrono>
 #include <future>
 #include <locale>
+#include <sstream>
 
-#include "support/LogCapture.hpp"
-#include "support/Outcome.hpp"
-#include "support/TemporaryFolder.hpp"
+#include "support/FolderGauge.hpp"
 
-using dral::Bq27542FuelGauge;
-using dral::FuelGaugeProperty;
-using dral::FuelGaugeStatus;
-using dral::LifetimeData;
-using dral::PropertyInfo;
-using dral::PropertyMap;
-using dral::PropertyValue;
+using namespace dral;
 
 namespace {
 
 constexpr auto Soon = std::chrono::seconds(20);  // for what would else never come
+constexpr auto ResetValue = FuelGaugeProperty::LifetimeDataResetValue;
 
-std::unique_ptr<PropertyMap> MapOf(FuelGaugeProperty property, PropertyInfo info) {
-  return std::make_unique<PropertyMap>(PropertyMap{{property, std::move(info)}});
-}
+class Bq27542FuelGaugeTest : public ::testing::Test, protected FolderGauge {};
 
-TEST(Bq27542FuelGauge, LogsItsConstruction) {
+TEST_F(Bq27542FuelGaugeTest, LogsItsConstruction) {
   const std::string constructor =
       "8 Bq27542FuelGauge Bq27542FuelGauge: Bq27542FuelGauge constructor ";
-  const TemporaryFolder folder;
-  LogCapture log;
+  const std::string none = folder.At("none");
+  LogOutput::SetLevel(LogLevel{8});
   const Bq27542FuelGauge standard("");
   EXPECT_EQ(log.Take(), constructor + "using default property map \n");
-  Bq27542FuelGauge overridden(folder.At("none"), Bq27542FuelGauge::PropertyMapAt("/nowhere"));
-  EXPECT_EQ(log.Take(), constructor + "using passed in property map \n" + constructor +
-                            "overwriting lifetime reset data " + folder.At("none") +
-                            "\n3 LifetimeDataParser LifetimeDataParser: Failed to open file : " +
-                            folder.At("none") + "\n");
+  Bq27542FuelGauge overridden(none, Bq27542FuelGauge::PropertyMapAt("/nowhere"));
+  EXPECT_EQ(log.Take(),
+            constructor + "using passed in property map \n" + constructor +
+                "overwriting lifetime reset data " + none +
+                "\n3 LifetimeDataParser LifetimeDataParser: Failed to open file : " + none + "\n");
   overridden.UpdateResetPropertyValues("");
   EXPECT_EQ(log.Take(), "");
 }
 
-TEST(Bq27542FuelGauge, AnswersTheResetValueAsTheMapHoldsIt) {
-  const auto get = [](std::unique_ptr<PropertyMap> map) {
-    return Describe(Bq27542FuelGauge("", std::move(map))
-                        .Get(FuelGaugeProperty::LifetimeDataResetValue, "ignored"));
-  };
-  const LogCapture log;
-  EXPECT_EQ(get(nullptr), "0 record " + Bytes(LifetimeData{}));
-  EXPECT_EQ(get(std::make_unique<PropertyMap>()), "0 record " + Bytes(LifetimeData{}));
-  EXPECT_EQ(get(MapOf(FuelGaugeProperty::LifetimeData, {.resetValue = "text"})), "0 string text");
-}
-
-TEST(Bq27542FuelGauge, AnOverrideNeedsARecordToStartFrom) {
-  const TemporaryFolder folder;
+TEST_F(Bq27542FuelGaugeTest, AnswersTheResetValueOfItsMapAndTheOverrideFile) {
+  const auto property = FuelGaugeProperty::LifetimeData;
   const std::string file = folder.Write("override", "maxTemp 1");
-  const LogCapture log;
+  const auto get = [](const std::string& path, std::unique_ptr<PropertyMap> map) {
+    return Describe(Bq27542FuelGauge(path, std::move(map)).Get(ResetValue, "ignored"));
+  };
   LifetimeData start{9, 9, 9, 9, 9, 9};
   start.reserved.fill(9);
-  Bq27542FuelGauge started(file, MapOf(FuelGaugeProperty::LifetimeData, {.resetValue = start}));
+  const std::string standard = "0 record " + Bytes(LifetimeData{});
+  EXPECT_EQ(get("", nullptr), standard);
+  EXPECT_EQ(get("", std::make_unique<PropertyMap>()), standard);
+  EXPECT_EQ(get("", MapOf(property, {.resetValue = "text"})), "0 string text");
+  auto map = MapOf(property, {.resetValue = start});
   start.maxTemp = 1;
-  EXPECT_EQ(Describe(started.Get(FuelGaugeProperty::LifetimeDataResetValue, 0)),
-            "0 record " + Bytes(start));
-  EXPECT_THROW(Bq27542FuelGauge(file, std::make_unique<PropertyMap>()), std::bad_variant_access);
-  EXPECT_THROW(Bq27542FuelGauge(file, MapOf(FuelGaugeProperty::LifetimeData, {})),
-               std::bad_variant_access);
-  Bq27542FuelGauge gauge("");
+  EXPECT_EQ(get(file, std::move(map)), "0 record " + Bytes(start));
+  EXPECT_THROW(get(file, std::make_unique<PropertyMap>()), std::bad_variant_access);
   EXPECT_THROW(gauge.UpdateResetPropertyValues(folder.Write("bad", "maxTemp 5 minTemp x")),
                std::invalid_argument);
-  EXPECT_EQ(Describe(gauge.Get(FuelGaugeProperty::LifetimeDataResetValue, 0)),
-            "0 record " + Bytes(LifetimeData{}))
-      << "a failed override changes nothing";
+  EXPECT_EQ(Describe(gauge.Get(ResetValue, 0)), standard) << "a failed override changes nothing";
+  EXPECT_EQ(Describe(gauge.Get<int>(ResetValue)), "2 int 0") << "an answer of another type";
 }
 
-TEST(Bq27542FuelGauge, TurnsExceptionsIntoLoggedFailures) {
-  Bq27542FuelGauge gauge("", std::make_unique<PropertyMap>());
-  LogCapture log(3);
-  EXPECT_EQ(Describe(gauge.Get(FuelGaugeProperty{17}, "abc")), "2 string abc");
+TEST_F(Bq27542FuelGaugeTest, TurnsExceptionsIntoLoggedFailures) {
+  const FuelGaugeProperty unknown{17};
+  Bq27542FuelGauge noFile("", MapOf(unknown, {}));
+  EXPECT_EQ(Describe(gauge.Get(unknown, "abc")), "2 string abc");
+  EXPECT_EQ(Describe(gauge.Set(ResetValue, 1)), "2");
+  EXPECT_EQ(Describe(gauge.Reset(unknown)), "2");
+  EXPECT_EQ(Describe(noFile.Get(unknown, LifetimeData{})), "2 record " + Bytes({}));
   EXPECT_EQ(log.Take(),
             "3 Readable Get: Readable Missing FuelGaugeProperty definition: 17\n"
             "3 Bq27542FuelGauge DoGet: Failed to get property: 17ex: Readable Missing "
-            "FuelGaugeProperty definition\n");
-  EXPECT_EQ(Describe(gauge.Set(FuelGaugeProperty::LifetimeDataResetValue, 1)), "2");
-  EXPECT_EQ(log.Take(),
+            "FuelGaugeProperty definition\n"
             "3 Writable WriteData: Writable Missing FuelGaugeProperty definition: 16\n"
             "3 Bq27542FuelGauge DoSet: Failed to set property: 16ex: Writable Missing "
-            "FuelGaugeProperty definition\n");
-  EXPECT_EQ(Describe(gauge.Reset(FuelGaugeProperty::LifetimeData)), "2");
-  EXPECT_EQ(log.Take(),
-            "3 Writable WriteData: Writable Missing FuelGaugeProperty definition: 15\n"
-            "3 Bq27542FuelGauge DoReset: Failed to reset property: 15ex: Writable Missing "
-            "FuelGaugeProperty definition\n");
-  dral::LogOutput::SetLevel(dral::LogLevel{2});
-  EXPECT_EQ(Describe(gauge.Get(FuelGaugeProperty{99}, 5)), "2 int 5");
-  EXPECT_EQ(Describe(gauge.Set(FuelGaugeProperty{99}, 5)), "2");
-  EXPECT_EQ(Describe(gauge.Reset(FuelGaugeProperty{99})), "2");
-  gauge.DumpPropertyMap();
-  EXPECT_EQ(log.Take(), "");
+            "FuelGaugeProperty definition\n"
+            "3 Writable WriteData: Writable Missing FuelGaugeProperty definition: 17\n"
+            "3 Bq27542FuelGauge DoReset: Failed to reset property: 17ex: Writable Missing "
+            "FuelGaugeProperty definition\n"
+            "3 Readable Get: FuelGaugeProperty:17not resettable, filepath empty\n"
+            "3 Bq27542FuelGauge DoGet: Failed to get property: 17ex: Readable Missing "
+            "FuelGaugeProperty filepath\n");
 }
 
-TEST(Bq27542FuelGauge, PassesStatusesOnAndTurnsBadNumbersIntoFailures) {
-  const TemporaryFolder folder;
-  Bq27542FuelGauge gauge("", Bq27542FuelGauge::PropertyMapAt(folder.At("")));
-  folder.Write("technology", "");
-  folder.Write("temp", "hot\n");
-  LogCapture log(3);
-  const auto lines = [&log] {
-    const std::string records = log.Take();
-    return std::count(records.begin(), records.end(), '\n');
-  };
-  EXPECT_EQ(Describe(gauge.Get(FuelGaugeProperty::Name, "hint")), "3 string ");
-  EXPECT_EQ(Describe(gauge.Get(FuelGaugeProperty::Technology, "hint")), "4 string ");
-  EXPECT_EQ(Describe(gauge.Set(FuelGaugeProperty::LifetimeData, "x")), "3");
-  EXPECT_EQ(Describe(gauge.Reset(FuelGaugeProperty::LifetimeData)), "3");
-  EXPECT_EQ(lines(), 4) << "none of them the driver's own";
-  EXPECT_EQ(Describe(gauge.Get(FuelGaugeProperty::Technology, true)), "2 bool true");
-  EXPECT_EQ(lines(), 2);
-  EXPECT_EQ(Describe(gauge.Get(FuelGaugeProperty::Temperature, 77U)), "2 uint 77");
-  EXPECT_EQ(log.Take(), "3 Bq27542FuelGauge DoGet: Failed to get property: 8ex: stoul\n");
-}
-
-TEST(Bq27542FuelGauge, TheDefaultPropertiesAreReadOnlyButForTheRecord) {
-  const TemporaryFolder folder;
-  Bq27542FuelGauge gauge("", Bq27542FuelGauge::PropertyMapAt(folder.At("")));
-  folder.Write("lifetime_data", "old");
-  folder.Write("voltage_now", "4200\n");
-  LogCapture log(3);
-  for (std::uint32_t number = 0; number < 15; ++number) {
-    const std::string record =
-        "3 Writable WriteData: FuelGaugeProperty:" + std::to_string(number) + "not settable\n";
-    EXPECT_EQ(Describe(gauge.Set(FuelGaugeProperty{number}, "x")), "2");
-    EXPECT_EQ(Describe(gauge.Reset(FuelGaugeProperty{number})), "2");
-    EXPECT_EQ(log.Take(), record + record);
-  }
-  EXPECT_EQ(folder.Read("voltage_now"), "4200\n");
-  EXPECT_EQ(Describe(gauge.Reset(FuelGaugeProperty::LifetimeData)), "0");
-  EXPECT_EQ(folder.Read("lifetime_data"), Bytes(LifetimeData{}));
-}
-
-TEST(Bq27542FuelGauge, DumpsEveryEntry) {
-  LogCapture log(3);
+TEST_F(Bq27542FuelGaugeTest, TheDefaultPropertiesAreReadOnlyButForTheRecord) {
   Bq27542FuelGauge("").DumpPropertyMap();
   const std::string dump = log.Take();
-  EXPECT_EQ(std::count(dump.begin(), dump.end(), '\n'), 16 * 3);
-  int number = 0;
-  for (const char* name :
-       {"Manufacturer", "Technology", "Status", "Present", "VoltageNow", "CurrentNow",
-        "StateOfCharge", "ChargeLevel", "Temperature", "NominalAvailableCapacity",
-        "FullChargeCapacity", "CycleCount", "PowerAverage", "Health", "TimeToEmpty"}) {
-    EXPECT_NE(dump.find("Type: " + std::to_string(number++) +
-                        " : dral::PropertyInfo:    propertyName=" + name +
-                        " , settable=0 , resettable=0 , "),
-              std::string::npos)
-        << name;
+  EXPECT_EQ(std::ranges::count(dump, '\n'), 16 * 3);
+  std::istringstream names(
+      "Manufacturer manufacturer Technology technology Status status Present present "
+      "VoltageNow voltage_now CurrentNow current_now StateOfCharge capacity "
+      "ChargeLevel capacity_level Temperature temp NominalAvailableCapacity charge_now "
+      "FullChargeCapacity charge_full CycleCount cycle_count PowerAverage power_avg "
+      "Health health TimeToEmpty time_to_empty_now LifetimeData lifetime_data");
+  std::string name;
+  std::string file;
+  for (std::uint32_t number = 0; number < 16; ++number) {
+    const bool record = number == 15;
+    const std::string flag = record ? "1" : "0";
+    names >> name >> file;
+    const std::string line =
+        "3 Bq27542FuelGauge DumpPropertyMap: Type: " + std::to_string(number) +
+        " : dral::PropertyInfo:    propertyName=" + name + " , settable=" + flag +
+        " , resettable=" + flag + " , location=/sys/class/power_supply/bq27542-0/" + file +
+        " , resetValue=" + (record ? "binaryData" : "") + " , binary=" + flag + "\n\n\n";
+    EXPECT_NE(dump.find(line), std::string::npos) << line;
+    EXPECT_EQ(Describe(gauge.Set(FuelGaugeProperty{number}, 5)), record ? "3" : "2");
   }
-  EXPECT_NE(
-      dump.find("3 Bq27542FuelGauge DumpPropertyMap: Type: 15 : dral::PropertyInfo:    "
-                "propertyName=LifetimeData , settable=1 , resettable=1 , location=/sys/class/"
-                "power_supply/bq27542-0/lifetime_data , resetValue=binaryData , binary=1\n\n\n"),
-      std::string::npos);
   const Bq27542FuelGauge odd("", MapOf(FuelGaugeProperty::Name, {.resetValue = 5}));
   EXPECT_THROW(odd.DumpPropertyMap(), std::bad_variant_access);
 }
 
-TEST(Bq27542FuelGauge, ReleasesTheLockBeforeItLogs) {
-  const TemporaryFolder folder;
+TEST_F(Bq27542FuelGaugeTest, ReleasesTheLockBeforeItLogs) {
   folder.Write("temp", "251\n");
-  Bq27542FuelGauge gauge("", Bq27542FuelGauge::PropertyMapAt(folder.At("")));
-  const LogCapture log(3);
   std::vector<std::string> answers;
-  dral::LogOutput::SetSink([&](const dral::LogRecord& record) {
+  LogOutput::SetSink([&](const LogRecord& record) {
     if (record.function.substr(0, 2) == "Do") {
       auto read = std::async(std::launch::async,
                              [&] { return gauge.Get<int>(FuelGaugeProperty::Temperature); });
@@ -186,56 +126,39 @@ TEST(Bq27542FuelGauge, ReleasesTheLockBeforeItLogs) {
   EXPECT_EQ(answers, std::vector<std::string>(3, "0 int 251"));
 }
 
-TEST(Bq27542FuelGauge, AnswersTheResetValueWhileAReadHoldsTheLock) {
-  const TemporaryFolder folder;
+TEST_F(Bq27542FuelGaugeTest, AnswersTheResetValueWhileAReadHoldsTheLock) {
   ASSERT_EQ(::mkfifo(folder.At("temp").c_str(), 0600), 0);
-  Bq27542FuelGauge gauge("", Bq27542FuelGauge::PropertyMapAt(folder.At("")));
   auto slow = std::async(std::launch::async,
                          [&] { return gauge.Get<int>(FuelGaugeProperty::Temperature); });
   std::ofstream pipe(folder.At("temp"));  // opens once the reader has; it then waits for the text
-  auto quick = std::async(std::launch::async, [&] {
-    return gauge.Get<LifetimeData>(FuelGaugeProperty::LifetimeDataResetValue).first;
-  });
+  auto quick = std::async(std::launch::async, [&] { return gauge.Get<LifetimeData>(ResetValue); });
   EXPECT_EQ(quick.wait_for(Soon), std::future_status::ready);
   pipe << "251\n" << std::flush;
   pipe.close();
   EXPECT_EQ(Describe(slow.get()), "0 int 251");
 }
 
-TEST(Bq27542FuelGauge, IgnoresTheGlobalLocale) {
+TEST_F(Bq27542FuelGaugeTest, IgnoresTheGlobalLocale) {
   struct Grouping : std::numpunct<char> {
     std::string do_grouping() const override { return "\1"; }
     char do_thousands_sep() const override { return ','; }
   };
-  // A file stream that asks it reads nothing.
-  struct Broken : std::codecvt<char, char, std::mbstate_t> {
-    using State = std::mbstate_t;
-    bool do_always_noconv() const noexcept override { return false; }
-    result do_in(State&, const char*, const char*, const char*&, char*, char*,
-                 char*&) const override {
-      return error;
-    }
-  };
-  const TemporaryFolder folder;
-  Bq27542FuelGauge gauge("", MapOf(FuelGaugeProperty{4200},
-                                   {.settable = true, .location = folder.Write("value", "")}));
+  // White space is none.
+  static const std::ctype_base::mask nothing[std::ctype<char>::table_size]{};
+  const FuelGaugeProperty value{4200};
   const std::string overrideFile = folder.Write("override", "maxTemp 1");
-  LogCapture log(3);
+  Bq27542FuelGauge odd("", MapOf(value, {.settable = true, .location = folder.Write("value", "")}));
   const std::locale grouping(std::locale(), new Grouping);
-  const std::locale before = std::locale::global(std::locale(grouping, new Broken));
-  std::string answers;
-  for (const PropertyValue& value : {PropertyValue(4200), PropertyValue(LifetimeData{})}) {
-    answers += Describe(gauge.Set(FuelGaugeProperty{4200}, value)) + ", ";
-    answers += Describe(gauge.Get(FuelGaugeProperty{4200}, value)) + ", ";
-  }
-  answers +=
-      Describe(Bq27542FuelGauge(overrideFile).Get(FuelGaugeProperty::LifetimeDataResetValue, 0));
-  gauge.Get(FuelGaugeProperty{12345}, 0);
-  gauge.DumpPropertyMap();
+  const std::locale before =
+      std::locale::global(std::locale(grouping, new std::ctype<char>(nothing)));
+  std::string answers = Describe(odd.Set(value, 4200)) + ", ";
+  answers += Describe(odd.Get(value, 0)) + ", ";
+  answers += Describe(Bq27542FuelGauge(overrideFile).Get(ResetValue, 0));
+  odd.Get(FuelGaugeProperty{12345}, 0);
+  odd.DumpPropertyMap();
   const std::string text = LifetimeData{}.ToString();
   std::locale::global(before);
-  EXPECT_EQ(answers, "0, 0 int 4200, 0, 0 record " + Bytes(LifetimeData{}) + ", 0 record " +
-                         Bytes(LifetimeData{.maxTemp = 1}));
+  EXPECT_EQ(answers, "0, 0 int 4200, 0 record " + Bytes(LifetimeData{.maxTemp = 1}));
   EXPECT_EQ(text, LifetimeData{}.ToString());
   const std::string records = log.Take();
   for (const char* part : {"definition: 12345\n", "property: 12345ex: ", "Type: 4200 : "}) {

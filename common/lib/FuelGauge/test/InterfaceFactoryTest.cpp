@@ -5,14 +5,9 @@
 #include <FuelGaugeIF.hpp>
 #include <LifetimeDataParser.hpp>
 
-#include "support/LogCapture.hpp"
 #include "support/Outcome.hpp"
-#include "support/TemporaryFolder.hpp"
 
-using dral::FuelGaugeIF;
-using dral::FuelGaugeProperty;
-using dral::IF;
-using dral::InterfaceFactory;
+using namespace dral;
 
 namespace {
 
@@ -22,39 +17,25 @@ struct OtherIF {
 
 // Built before main: the library's tables must be there already.
 const auto EarlyGauge = InterfaceFactory::Create<FuelGaugeIF, std::string_view>("any", "");
-const auto EarlyKeys = dral::LifetimeDataParser::mapping.size();
+const auto EarlyKeys = LifetimeDataParser::mapping.size();
 
 TEST(InterfaceFactory, EveryNameBuildsTheGauge) {
-  const LogCapture log;
   for (const char* name : {"Bq27542FuelGauge", "DefaultIF", "", "bq27542fuelgauge"}) {
     const auto gauge = InterfaceFactory::Create<FuelGaugeIF, std::string_view>(name, "");
-    EXPECT_NE(dynamic_cast<dral::Bq27542FuelGauge*>(gauge.get()), nullptr) << name;
+    EXPECT_NE(dynamic_cast<Bq27542FuelGauge*>(gauge.get()), nullptr) << name;
   }
   EXPECT_EQ((IF<FuelGaugeIF>::ifConstructors<std::string_view>.size()), 2U);
 }
 
 TEST(InterfaceFactory, ServesStaticInitialisersAndModulesLoadedLate) {
   EXPECT_EQ(Describe(EarlyGauge->Get(FuelGaugeProperty::LifetimeDataResetValue, 0)),
-            "0 record " + Bytes(dral::LifetimeData{}));
+            "0 record " + Bytes(LifetimeData{}));
   EXPECT_EQ(EarlyKeys, 6U);
   void* const module = ::dlopen(LATE_MODULE, RTLD_NOW | RTLD_LOCAL);
   ASSERT_NE(module, nullptr) << ::dlerror();
   const auto lateRegistry = reinterpret_cast<const void* (*)()>(::dlsym(module, "LateRegistry"));
   EXPECT_EQ(lateRegistry(), &IF<FuelGaugeIF>::ifConstructors<std::string_view>);
   ::dlclose(module);
-}
-
-TEST(InterfaceFactory, TheOverrideFileIsReadOrRefused) {
-  const TemporaryFolder folder;
-  const LogCapture log;
-  const auto maxTemp = [](const std::string& path) {
-    return InterfaceFactory::Create<FuelGaugeIF, std::string_view>("DefaultIF", path)
-        ->Get<dral::LifetimeData>(FuelGaugeProperty::LifetimeDataResetValue)
-        .second.maxTemp;
-  };
-  EXPECT_EQ(maxTemp(folder.Write("good", "maxTemp 550")), 550);
-  EXPECT_EQ(maxTemp(folder.At("missing")), 600);
-  EXPECT_THROW(maxTemp(folder.Write("bad", "maxTemp hot")), std::invalid_argument);
 }
 
 TEST(InterfaceFactory, AnotherRegistryIsEmpty) {

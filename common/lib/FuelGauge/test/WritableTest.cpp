@@ -1,114 +1,77 @@
 // SPDX-License-Identifier: MIT
-#include "Writable.hpp"
-
 #include <gtest/gtest.h>
 
 #include <cerrno>
 #include <cstring>
 
-#include "support/LogCapture.hpp"
-#include "support/Outcome.hpp"
-#include "support/TemporaryFolder.hpp"
+#include "support/Fault.hpp"
+#include "support/FolderGauge.hpp"
+#include "support/OpenFiles.hpp"
 
-using dral::FuelGaugeProperty;
-using dral::LifetimeData;
-using dral::PropertyMap;
-using dral::PropertyValue;
-using dral::Writable;
+using namespace dral;
 
-namespace {
-
-const LifetimeData Given{1, -2, 3, 4, 5, -6};
-const LifetimeData ResetRecord{7, -8, 9, 10, 11, -12};
-
-PropertyMap MapOf(const std::string& location, bool settable = true) {
-  return {{FuelGaugeProperty::LifetimeData,
-           {.settable = settable,
-            .resettable = true,
-            .location = location,
-            .resetValue = ResetRecord}}};
-}
-
-std::string Set(const PropertyMap& map, const PropertyValue& value) {
-  return Outcome([&] { return Writable(FuelGaugeProperty::LifetimeData, map).Set(value); });
-}
-
-std::string Reset(const PropertyMap& map) {
-  return Outcome([&] { return Writable(FuelGaugeProperty::LifetimeData, map).Reset(); });
-}
+constexpr auto Property = FuelGaugeProperty::LifetimeData;
 
 TEST(Writable, WritesJustTheValueInTheFormOfItsType) {
-  const TemporaryFolder folder;
-  const PropertyMap map = MapOf(folder.At("value"));
-  const std::pair<PropertyValue, std::string> cases[] = {
-      {250, "250"},
-      {-2147483647 - 1, "-2147483648"},
-      {4294967295U, "4294967295"},
-      {true, "1"},
-      {false, "0"},
-      {"any\ntext ", "any\ntext "},
-      {std::string(), ""},
-      {std::string(5000, 'x'), std::string(5000, 'x')},
-      {Given, Bytes(Given)},
-  };
-  LogCapture log;
-  for (const auto& [value, contents] : cases) {
-    folder.Write("value", "an older content, which is longer than what is written");
-    EXPECT_EQ(Set(map, value), "0");
-    EXPECT_EQ(folder.Read("value"), contents);
-    EXPECT_EQ(Reset(map), "0");
-    EXPECT_EQ(folder.Read("value"), Bytes(ResetRecord));
-  }
-  EXPECT_EQ(log.Take(), "");
-}
-
-TEST(Writable, RefusesBeforeItTouchesTheFile) {
-  const TemporaryFolder folder;
-  const std::string kept = folder.Write("kept", "kept");
-  const std::string missing = folder.At("missing");
-  const std::string directory = folder.At("");
+  FolderGauge at;
+  const std::string path = at.folder.At("lifetime_data");
+  const std::string before = "older, and longer than what is written";
+  const LifetimeData given{1, -2, 3, 4, 5, -6};
+  const std::string notFound =
+      "3 Writable WriteData: Writable::Set failed - file not found: " + path + "\n";
+  const std::string notOpened =
+      "3 Writable operator(): Writable::Set failed to open file: " + path +
+      "error: " + std::strerror(ENOENT) + "\n";
   struct Case {
-    const char* title;
-    PropertyMap map;
-    std::string outcome;
-    std::string record;
+    PropertyValue value;
+    std::string outcome;  // the status, and what the file holds then
+    Fault fault{};
+    std::string records{};
   };
   const Case cases[] = {
-      {"no entry",
-       {},
-       "logic_error Writable Missing FuelGaugeProperty definition",
-       "WriteData: Writable Missing FuelGaugeProperty definition: 15"},
-      {"resettable, but not settable", MapOf(kept, false), "2",
-       "WriteData: FuelGaugeProperty:15not settable"},
-      {"not settable comes before missing", MapOf(missing, false), "2",
-       "WriteData: FuelGaugeProperty:15not settable"},
-      {"missing", MapOf(missing), "3",
-       "WriteData: Writable::Set failed - file not found: " + missing},
-      {"no location", MapOf(""), "3", "WriteData: Writable::Set failed - file not found: "},
-      {"cannot be opened", MapOf(directory), "3",
-       "operator(): Writable::Set failed to open file: " + directory +
-           "error: " + std::strerror(EISDIR)},
+      {-2147483647 - 1, "0 -2147483648"},
+      {4294967295U, "0 4294967295"},
+      {true, "0 1"},
+      {false, "0 0"},
+      {"any\ntext ", "0 any\ntext "},
+      {"", "0 "},
+      {std::string(5000, 'x'), "0 " + std::string(5000, 'x')},
+      {given, "0 " + Bytes(given)},
+      {"text", "3 " + before, {"stat", 0, EACCES}, notFound},
+      {"text", "3 ", {"found", 0, ENOENT}, notOpened},
+      {"text", "0 text", {"write", 1, EINTR, 3}},
+      {"text", "0 tex", {"write", 1, EIO, 3}},
+      {given, "0 ", {"write", 0, ENOSPC}},
   };
-  LogCapture log;
   for (const Case& each : cases) {
-    const std::string record = "3 Writable " + each.record + "\n";
-    EXPECT_EQ(Set(each.map, 5) + Set(each.map, Given), each.outcome + each.outcome) << each.title;
-    EXPECT_EQ(log.Take(), record + record) << each.title;
-    EXPECT_EQ(Reset(each.map), each.outcome) << each.title;
-    EXPECT_EQ(log.Take(), record) << each.title;
-    EXPECT_EQ(log.Quietly([&] { return Reset(each.map) + Set(each.map, "text"); }),
-              each.outcome + each.outcome);
-    EXPECT_EQ(log.Take(), "") << each.title;
+    at.folder.Write("lifetime_data", before);
+    const auto files = OpenFiles();
+    fault = each.fault;
+    const auto status = at.gauge.Set(Property, each.value);
+    fault = {};
+    EXPECT_EQ(Describe(status) + " " + at.folder.Read("lifetime_data"), each.outcome);
+    EXPECT_EQ(at.log.Take(), each.records) << each.fault.call;
+    EXPECT_EQ(OpenFiles(), files);
   }
-  EXPECT_EQ(folder.Read("kept"), "kept");
-  EXPECT_FALSE(std::filesystem::exists(missing));
+  EXPECT_EQ(Describe(at.gauge.Reset(Property)), "0");
+  EXPECT_EQ(at.folder.Read("lifetime_data"), Bytes(LifetimeData{}));
 }
 
-TEST(Writable, BytesThatTheKernelRefusesAreStillASuccess) {
-  LogCapture log;
-  EXPECT_EQ(Set(MapOf("/dev/full"), Given), "0");
-  EXPECT_EQ(Set(MapOf("/dev/full"), "text"), "0");
-  EXPECT_EQ(log.Take(), "");
+TEST(Writable, NeedsASettablePropertyWithAFile) {
+  const TemporaryFolder folder;
+  const std::string file = folder.Write("file", "kept");
+  LogCapture log(3);
+  const std::pair<PropertyInfo, std::string> cases[] = {
+      {{.resettable = true, .location = file}, "2 FuelGaugeProperty:15not settable"},
+      {{.resettable = true, .location = "/nowhere"}, "2 FuelGaugeProperty:15not settable"},
+      {{.settable = true, .location = ""}, "3 Writable::Set failed - file not found: "},
+  };
+  for (const auto& [info, outcome] : cases) {
+    Bq27542FuelGauge gauge("", MapOf(Property, info));
+    EXPECT_EQ(Describe(gauge.Set(Property, 5)) + Describe(gauge.Reset(Property)),
+              std::string(2, outcome[0]));
+    const std::string record = "3 Writable WriteData: " + outcome.substr(2) + "\n";
+    EXPECT_EQ(log.Take(), record + record);
+  }
+  EXPECT_EQ(folder.Read("file"), "kept");
 }
-
-}  // namespace

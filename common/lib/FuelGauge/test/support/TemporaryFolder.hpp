@@ -12,8 +12,6 @@ class TemporaryFolder {
  public:
   TemporaryFolder() : path(::mkdtemp(std::string("/dev/shm/fuelgauge-XXXXXX").data())) {}
   ~TemporaryFolder() { std::filesystem::remove_all(path); }
-  TemporaryFolder(const TemporaryFolder&) = delete;
-  TemporaryFolder& operator=(const TemporaryFolder&) = delete;
 
   std::string At(const std::string& name) const { return path + "/" + name; }
 
@@ -28,6 +26,5 @@ class TemporaryFolder {
     return {std::istreambuf_iterator<char>(file), {}};
   }
 
- private:
-  std::string path;
+  const std::string path;
 };

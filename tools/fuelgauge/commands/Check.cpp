@@ -5,11 +5,14 @@
 #include <iostream>
 #include <map>
 #include <memory>
+#include <vector>
 
 #include "commands/Commands.hpp"
 #include "output/Json.hpp"
 #include "output/Message.hpp"
 #include "output/Text.hpp"
+#include "readings/Limit.hpp"
+#include "readings/UsageError.hpp"
 
 namespace fuelgauge {
 namespace {
@@ -20,6 +23,7 @@ const std::map<std::string, Severity> Severities = {
 struct CheckOptions {
   bool json = false;
   std::string severity = "warning";
+  std::vector<Rule> limits;
 };
 
 const std::string& NameOf(Severity severity) {
@@ -98,7 +102,7 @@ void PrintForPeople(const std::vector<Finding>& findings, const Readings& readin
 
 ExitStatus Check(const Gauge& gauge, const CheckOptions& options) {
   const Readings readings = gauge.ReadAll();
-  const std::vector<Finding> findings = Check(readings);
+  const std::vector<Finding> findings = Check(readings, options.limits);
   if (options.json) {
     PrintJson(findings, readings);
   } else if (readings.AnySucceeded()) {
@@ -115,6 +119,22 @@ ExitStatus Check(const Gauge& gauge, const CheckOptions& options) {
   return wrong ? ExitStatus::Findings : ExitStatus::Success;
 }
 
+void AddLimit(CLI::App& parser, const std::shared_ptr<CheckOptions>& options, const char* name,
+              Bound bound, const char* description) {
+  const auto add = [options, name, bound](const std::vector<std::string>& texts) {
+    try {
+      for (const std::string& text : texts) {
+        options->limits.push_back(LimitOf(bound, text));
+      }
+    } catch (const UsageError& error) {
+      throw CLI::ValidationError(name, error.what());
+    }
+  };
+  parser.add_option_function<std::vector<std::string>>(name, add, description)
+      ->type_name("PROPERTY=NUMBER")
+      ->allow_extra_args(false);
+}
+
 }  // namespace
 
 Action AddCheck(CLI::App& parser) {
@@ -125,6 +145,9 @@ Action AddCheck(CLI::App& parser) {
                   "The least that ends with 1: notice, warning or error; without it warning")
       ->type_name("LEVEL")
       ->check(CLI::IsMember(Severities).description(""));
+  AddLimit(parser, options, "--min", Bound::Minimum,
+           "An error when it is less, in the kernel's unit, or cannot be read; repeatable");
+  AddLimit(parser, options, "--max", Bound::Maximum, "An error when it is more, likewise");
   return [options](const GaugeOptions& which) { return Check(Gauge(which), *options); };
 }
 

@@ -19,12 +19,14 @@ bool Silences(const Finding& cause, const Finding& consequence) {
 
 }  // namespace
 
-std::vector<Finding> Check(const Readings& readings) {
+std::vector<Finding> Check(const Readings& readings, const std::vector<Rule>& limits) {
   std::vector<Finding> findings;
-  for (const Rule& rule : Rules) {
-    Evidence evidence = rule.find(readings);
-    if (!evidence.properties.empty() || !evidence.fields.empty()) {
-      findings.push_back({&rule, std::move(evidence)});
+  for (const auto* const rules : {&Rules, &limits}) {
+    for (const Rule& rule : *rules) {
+      Evidence evidence = rule.find(readings);
+      if (!evidence.properties.empty() || !evidence.fields.empty()) {
+        findings.push_back({&rule, std::move(evidence)});
+      }
     }
   }
   std::vector<Finding> told;

@@ -13,7 +13,8 @@ struct Finding {
   Evidence evidence;
 };
 
-/// @return a finding for each rule that @p readings break, but for those that another one silences
-std::vector<Finding> Check(const Readings& readings);
+/// @return a finding for each rule and each of @p limits that @p readings break, but for those that
+///         another one silences
+std::vector<Finding> Check(const Readings& readings, const std::vector<Rule>& limits = {});
 
 }  // namespace fuelgauge

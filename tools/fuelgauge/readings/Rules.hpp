@@ -2,6 +2,7 @@
 #pragma once
 
 #include <functional>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -26,7 +27,7 @@ struct Evidence {
 struct Rule {
   std::string_view name;
   Severity severity;
-  std::string_view reason;  ///< what a finding means
+  std::string reason;  ///< what a finding means
   std::function<Evidence(const Readings& readings)> find;
   /// Rules whose findings only follow from this, where they show one of the same properties.
   std::vector<std::string_view> silences = {};

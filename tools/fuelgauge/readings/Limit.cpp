@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+#include "readings/Limit.hpp"
+
+#include <charconv>
+#include <string>
+
+#include "readings/UsageError.hpp"
+
+namespace fuelgauge {
+
+Rule LimitOf(Bound bound, std::string_view text) {
+  const auto equals = text.find('=');
+  if (equals == 0 || equals == std::string_view::npos) {
+    throw UsageError("'" + std::string(text) + "' is not PROPERTY=NUMBER");
+  }
+  const Property& property = FindProperty(text.substr(0, equals));
+  const std::string name(property.name);
+  if (property.type != Type::Int) {
+    throw UsageError(name + " is not a number, and has no limits");
+  }
+  const std::string_view digits = text.substr(equals + 1);
+  int limit = 0;
+  const auto [end, error] = std::from_chars(digits.begin(), digits.end(), limit);
+  if (error != std::errc() || end != digits.end()) {
+    throw UsageError(name + ": '" + std::string(digits) + "' is not a whole number of 32 bits");
+  }
+  const bool least = bound == Bound::Minimum;
+  return {
+      least ? "minimum" : "maximum", Severity::Error,
+      name + " is to be " + ForPeople(limit, property.unit) + " or " + (least ? "more" : "less"),
+      [id = property.id, least, limit](const Readings& readings) {
+        const auto number = readings.Number(id);
+        const bool kept = number && (least ? *number >= limit : *number <= limit);
+        return kept ? Evidence{} : Evidence{{id}, {}};
+      }};
+}
+
+}  // namespace fuelgauge

@@ -12,6 +12,7 @@
 #include <sstream>
 
 #include "commands/Commands.hpp"
+#include "commands/Presence.hpp"
 #include "commands/WatchSignals.hpp"
 #include "output/Csv.hpp"
 #include "output/Json.hpp"
@@ -19,6 +20,7 @@
 #include "output/Screen.hpp"
 #include "output/Text.hpp"
 #include "output/Timestamp.hpp"
+#include "readings/Summary.hpp"
 
 using dral::FuelGaugeProperty;
 using std::chrono::steady_clock;
@@ -80,30 +82,6 @@ bool DrawsInPlace() {
          std::string_view(terminal) != "dumb";
 }
 
-// Tells once that the gauge is gone, and once that it is back.
-class Presence {
- public:
-  /// @return whether something was told
-  bool Tell(const Gauge& gauge, const Readings& readings, const std::string& time) {
-    const bool nowThere = readings.AnySucceeded();
-    const bool changed = nowThere != there;
-    if (changed && nowThere) {
-      Complain("gauge found at " + time);
-    } else if (changed) {
-      Complain(gauge.Missing(readings) + (lastSeen.empty() ? "" : "; last read at " + lastSeen));
-    }
-    there = nowThere;
-    lastSeen = nowThere ? time : lastSeen;
-    return changed;
-  }
-
-  bool Ever() const { return !lastSeen.empty(); }
-
- private:
-  bool there = true;
-  std::string lastSeen;
-};
-
 void PrintSample(const WatchOptions& options, const std::string& time, const Readings& readings) {
   if (options.csv) {
     PrintCsvLine(time, readings);
@@ -114,9 +92,23 @@ void PrintSample(const WatchOptions& options, const std::string& time, const Rea
   }
 }
 
-void WaitUntil(steady_clock::time_point next, const WatchSignals& signals,
+// Lines for programs end without: who reads them has the samples.
+void Tell(const Summary& summary, const WatchOptions& options) {
+  if (!options.csv && !options.json) {
+    for (const std::string& line : summary.Lines()) {
+      Complain(line);
+    }
+  }
+}
+
+// @return whether the watch goes on
+bool WaitUntil(steady_clock::time_point next, const WatchSignals& signals,
                std::optional<Screen>& screen) {
   while (const int signal = signals.CameBefore(next)) {
+    if (signal == SIGINT || signal == SIGTERM) {
+      std::cout << (::isatty(STDOUT_FILENO) != 0 ? "\n" : "") << std::flush;  // behind "^C"
+      return false;
+    }
     if (screen && signal == SIGCONT) {
       screen->Leave();
     }
@@ -124,6 +116,7 @@ void WaitUntil(steady_clock::time_point next, const WatchSignals& signals,
       screen->Redraw();
     }
   }
+  return true;
 }
 
 ExitStatus Watch(const Gauge& gauge, const WatchOptions& options) {
@@ -134,13 +127,16 @@ ExitStatus Watch(const Gauge& gauge, const WatchOptions& options) {
   } else if (!options.json && DrawsInPlace()) {
     screen.emplace();
   }
-  const auto interval = std::chrono::duration_cast<steady_clock::duration>(
-      std::chrono::duration<double>(options.intervalSeconds));
+  const Summary::Seconds seconds(options.intervalSeconds);
+  const auto interval = std::chrono::duration_cast<steady_clock::duration>(seconds);
+  Summary summary(seconds);
   Presence presence;
   auto next = steady_clock::now();
   for (std::uint64_t taken = 1;; ++taken) {
     const std::string time = Timestamp(Now());
+    const Summary::Seconds moment = SinceStart();
     const Readings readings = gauge.ReadAll();
+    summary.Add(moment, readings);
     if (presence.Tell(gauge, readings, time) && screen) {
       screen->Leave();
     }
@@ -152,10 +148,13 @@ ExitStatus Watch(const Gauge& gauge, const WatchOptions& options) {
       PrintSample(options, time, readings);
     }
     next = std::max(next + interval, steady_clock::now());  // a slow gauge is not hurried after
-    if (!std::cout.flush() || taken == options.count) {
-      return status;  // main sees to an output that failed
+    if (!std::cout.flush()) {
+      return status;  // main sees to it
     }
-    WaitUntil(next, signals, screen);
+    if (taken == options.count || !WaitUntil(next, signals, screen)) {
+      Tell(summary, options);
+      return status;
+    }
   }
 }
 

@@ -12,11 +12,13 @@
 namespace fuelgauge {
 namespace {
 
-// NOLINTNEXTLINE(cppcoreguidelines-avoid-non-const-global-variables): a handler sees nothing else
+// NOLINTBEGIN(cppcoreguidelines-avoid-non-const-global-variables): a handler sees nothing else
 volatile std::sig_atomic_t endStatus = static_cast<int>(ExitStatus::FileError);
+volatile std::sig_atomic_t endSignal = 0;
+// NOLINTEND(cppcoreguidelines-avoid-non-const-global-variables)
 
-// Calls only what a handler may call.
-extern "C" void End(int /*signal*/) {
+// Both handlers call only what a handler may call.
+extern "C" void EndNow(int /*signal*/) {
   termios unused{};
   pollfd output{STDOUT_FILENO, POLLOUT, 0};
   if (::tcgetattr(STDOUT_FILENO, &unused) == 0 && ::poll(&output, 1, 0) > 0) {
@@ -26,26 +28,39 @@ extern "C" void End(int /*signal*/) {
   ::_exit(endStatus);
 }
 
-void EndOn(int signal) {
+extern "C" void EndSoon(int signal) {
+  endSignal = signal;
+  ::alarm(1);
+}
+
+void Handle(int signal, void (*handler)(int), unsigned flags) {
   struct sigaction action {};
-  ::sigaction(signal, nullptr, &action);
-  if (action.sa_handler != SIG_IGN) {
-    action = {};
-    action.sa_handler = End;
-    action.sa_flags = static_cast<int>(SA_RESETHAND | SA_NODEFER);  // the second one kills
-    ::sigaction(signal, &action, nullptr);
-  }
+  action.sa_handler = handler;
+  action.sa_flags = static_cast<int>(flags);
+  ::sigaction(signal, &action, nullptr);
 }
 
 }  // namespace
 
 WatchSignals::WatchSignals() {
+  Handle(SIGALRM, EndNow, 0);
+  ::sigemptyset(&ends);
   EndOn(SIGINT);
   EndOn(SIGTERM);
-  ::sigemptyset(&waitedFor);
+  waitedFor = ends;
   ::sigaddset(&waitedFor, SIGWINCH);
   ::sigaddset(&waitedFor, SIGCONT);
   ::sigprocmask(SIG_BLOCK, &waitedFor, nullptr);
+  ::sigprocmask(SIG_UNBLOCK, &ends, nullptr);
+}
+
+void WatchSignals::EndOn(int signal) {
+  struct sigaction action {};
+  ::sigaction(signal, nullptr, &action);
+  if (action.sa_handler != SIG_IGN) {
+    Handle(signal, EndSoon, SA_RESETHAND | SA_NODEFER | SA_RESTART);  // the second one kills
+    ::sigaddset(&ends, signal);
+  }
 }
 
 void WatchSignals::EndWith(ExitStatus status) {
@@ -54,18 +69,24 @@ void WatchSignals::EndWith(ExitStatus status) {
 
 int WatchSignals::CameBefore(std::chrono::steady_clock::time_point time) const {
   using std::chrono::nanoseconds;
-  while (true) {
+  ::sigprocmask(SIG_BLOCK, &ends, nullptr);  // now or in the wait: none is lost between
+  int signal = endSignal;
+  bool interrupted = signal == 0;
+  while (interrupted) {
     const auto left =
         std::max(nanoseconds(0), nanoseconds(time - std::chrono::steady_clock::now()));
     const auto seconds = std::chrono::floor<std::chrono::seconds>(left);
     timespec timeout{};
     timeout.tv_sec = static_cast<std::time_t>(seconds.count());
     timeout.tv_nsec = static_cast<long>((left - seconds).count());
-    const int signal = ::sigtimedwait(&waitedFor, nullptr, &timeout);
-    if (signal > 0 || errno != EINTR) {
-      return std::max(signal, 0);
-    }
+    signal = ::sigtimedwait(&waitedFor, nullptr, &timeout);
+    interrupted = signal < 0 && errno == EINTR;
   }
+  if (signal == SIGINT || signal == SIGTERM) {
+    ::alarm(1);
+  }
+  ::sigprocmask(SIG_UNBLOCK, &ends, nullptr);
+  return std::max(signal, 0);
 }
 
 }  // namespace fuelgauge

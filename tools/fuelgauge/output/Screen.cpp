@@ -7,9 +7,12 @@
 #include <algorithm>
 #include <array>
 #include <iostream>
+#include <limits>
+#include <utility>
 
 #include "output/Columns.hpp"
 #include "output/Table.hpp"
+#include "readings/Units.hpp"
 
 using dral::FuelGaugeProperty;
 
@@ -17,6 +20,7 @@ namespace fuelgauge {
 namespace {
 
 constexpr std::size_t CourseLength = 40;
+constexpr std::size_t LimitsColumns = 16;
 
 // The few sequences that every terminal since the VT100 knows.
 constexpr auto ClearLine = "\x1b[K";
@@ -45,6 +49,17 @@ Window WindowNow() {
   return {size.ws_row > 0 ? size.ws_row : 24U, size.ws_col > 0 ? size.ws_col : 80U};
 }
 
+// Of those that are there; of none, the least is above the greatest.
+std::pair<std::int64_t, std::int64_t> RangeOf(const Course& numbers) {
+  std::int64_t least = std::numeric_limits<int>::max();
+  std::int64_t greatest = std::numeric_limits<int>::min();
+  for (const auto& number : numbers) {
+    least = std::min<std::int64_t>(least, number.value_or(least));
+    greatest = std::max<std::int64_t>(greatest, number.value_or(greatest));
+  }
+  return {least, greatest};
+}
+
 }  // namespace
 
 std::string Bar(int percent, int width) {
@@ -55,35 +70,42 @@ std::string Bar(int percent, int width) {
   return bar.append("]");
 }
 
-std::string Sparkline(const std::deque<std::optional<int>>& numbers) {
+std::string Sparkline(const Course& numbers) {
   constexpr std::array Heights = {"▁", "▂", "▃", "▄", "▅", "▆", "▇", "█"};
-  std::int64_t least = 0;
-  std::int64_t greatest = 0;
-  bool any = false;
-  for (const auto& number : numbers) {
-    if (number) {
-      least = any ? std::min<std::int64_t>(least, *number) : *number;
-      greatest = any ? std::max<std::int64_t>(greatest, *number) : *number;
-      any = true;
-    }
-  }
+  const auto [least, greatest] = RangeOf(numbers);
+  const std::int64_t span = std::max<std::int64_t>(greatest - least, 1);
   std::string line;
   for (const auto& number : numbers) {
-    if (!number) {
-      line += " ";
-    } else {
-      const std::int64_t span = std::max<std::int64_t>(greatest - least, 1);
-      line += Heights.at(static_cast<std::size_t>((*number - least) * 7 / span));
-    }
+    line += number ? Heights.at(static_cast<std::size_t>((*number - least) * 7 / span)) : " ";
   }
   return line;
 }
+
+namespace {
+
+// The newest, at most so many, behind their limits.
+std::string SparklineWithLimits(Course numbers, Unit unit, std::size_t most) {
+  while (numbers.size() > most) {
+    numbers.pop_front();
+  }
+  const auto [least, greatest] = RangeOf(numbers);
+  if (least > greatest) {
+    return "";
+  }
+  const std::string from = ForPeople(least, unit);
+  const std::string limits = from.substr(0, from.find(' ')) + "…" + ForPeople(greatest, unit);
+  return PadTo(LimitsColumns, limits).append(Sparkline(numbers));
+}
+
+}  // namespace
 
 std::vector<Screen::Line> Screen::Table(const std::string& time, const Readings& readings) const {
   const std::string heading = "fuelgauge watch, " + time;
   if (!readings.AnySucceeded()) {
     return {{HeadingRank, heading + ": no gauge"}};
   }
+  constexpr std::size_t Before = NameColumns + ValueColumns + LimitsColumns + 1;
+  const std::size_t most = std::max(WindowNow().columns, Before + 1) - Before;
   std::vector<Line> lines = {{HeadingRank, heading + "; Ctrl-C ends"}};
   for (const Reading& reading : readings) {
     const FuelGaugeProperty id = reading.property->id;
@@ -91,9 +113,9 @@ std::vector<Screen::Line> Screen::Table(const std::string& time, const Readings&
     if (id == FuelGaugeProperty::StateOfCharge && reading.Succeeded()) {
       remark = Bar(*reading.Number(), 20);
     } else if (id == FuelGaugeProperty::VoltageNow) {
-      remark = Sparkline(voltages);
+      remark = SparklineWithLimits(voltages, reading.property->unit, most);
     } else if (id == FuelGaugeProperty::CurrentNow) {
-      remark = Sparkline(currents);
+      remark = SparklineWithLimits(currents, reading.property->unit, most);
     }
     if (id != FuelGaugeProperty::LifetimeData) {
       lines.push_back({Rank(id), Row(reading.property->name, reading.ForPeople(), remark)});

@@ -11,6 +11,9 @@
 
 namespace fuelgauge {
 
+/// The last numbers of a property, the newest last; none where it was not read.
+using Course = std::deque<std::optional<int>>;
+
 /// The table that `watch` draws on a terminal again and again in the same place, with a bar for the
 /// charge and the recent course of voltage and current. It changes nothing that would have to be
 /// restored: between two drawings the cursor waits below the table, whatever ends the program.
@@ -26,8 +29,6 @@ class Screen {
   void Leave() { drawn.clear(); }
 
  private:
-  using Course = std::deque<std::optional<int>>;
-
   struct Line {
     std::size_t rank;  // a low window shows those of the lowest
     std::string text;
@@ -47,6 +48,6 @@ std::string Bar(int percent, int width);
 
 /// @return a character for each number, its height between the least and the greatest of them; a
 ///         blank where there is none
-std::string Sparkline(const std::deque<std::optional<int>>& numbers);
+std::string Sparkline(const Course& numbers);
 
 }  // namespace fuelgauge

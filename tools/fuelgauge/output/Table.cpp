@@ -16,7 +16,8 @@ std::string PadTo(std::size_t width, std::string text) {
 }
 
 std::string Row(std::string_view name, std::string_view value, std::string_view remark) {
-  std::string row = PadTo(26, std::string(name)).append(PadTo(20, TerminalSafe(value)));
+  std::string row =
+      PadTo(NameColumns, std::string(name)).append(PadTo(ValueColumns, TerminalSafe(value)));
   row.append(TerminalSafe(remark));
   row.erase(row.find_last_not_of(' ') + 1);
   return row;

@@ -7,6 +7,10 @@
 
 namespace fuelgauge {
 
+/// Where a row's name and value end.
+constexpr std::size_t NameColumns = 26;
+constexpr std::size_t ValueColumns = 20;
+
 /// @return @p text with blanks after it, up to @p width columns
 std::string PadTo(std::size_t width, std::string text);
 

@@ -14,6 +14,12 @@ std::chrono::system_clock::time_point Now() {
       std::chrono::seconds(time.tv_sec) + std::chrono::nanoseconds(time.tv_nsec)));
 }
 
+std::chrono::duration<double> SinceStart() {
+  std::timespec time{};
+  ::clock_gettime(CLOCK_BOOTTIME, &time);
+  return std::chrono::seconds(time.tv_sec) + std::chrono::nanoseconds(time.tv_nsec);
+}
+
 std::string Timestamp(std::chrono::system_clock::time_point time) {
   using std::chrono::milliseconds;
   const auto sinceEpoch = std::chrono::floor<milliseconds>(time.time_since_epoch());

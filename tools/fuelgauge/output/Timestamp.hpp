@@ -10,6 +10,9 @@ namespace fuelgauge {
 ///         is wrong after the year 2037.
 std::chrono::system_clock::time_point Now();
 
+/// @return the time since the device started, its sleep included; nobody sets this clock
+std::chrono::duration<double> SinceStart();
+
 /// @return the time in UTC and to the millisecond, as "2026-11-25T09:30:00.125Z"
 std::string Timestamp(std::chrono::system_clock::time_point time);
 

@@ -25,6 +25,7 @@ constexpr std::array Units = {
     UnitInfo{Unit::Percent, "%", 1, 0, "%"},
     UnitInfo{Unit::TenthDegreeCelsius, "× 0.1 °C", 1, 1, "°C"},
     UnitInfo{Unit::MicroampereHour, "µAh", 1000, 0, "mAh"},
+    UnitInfo{Unit::TenthMilliampereHour, "× 0.1 mAh", 1, 1, "mAh"},
     UnitInfo{Unit::Microwatt, "µW", 1000, 0, "mW"},
     UnitInfo{Unit::Second, "s", 60, 0, "h:mm"},
     UnitInfo{Unit::Millivolt, "mV", 1, 3, "V"},

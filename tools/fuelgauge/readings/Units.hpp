@@ -14,6 +14,7 @@ enum class Unit {
   Percent,
   TenthDegreeCelsius,
   MicroampereHour,
+  TenthMilliampereHour,
   Microwatt,
   Second,
   Millivolt,

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+#include "readings/Summary.hpp"
+
+#include <gtest/gtest.h>
+
+#include "Readings.hpp"
+
+namespace fuelgauge {
+namespace {
+
+TEST(Summary, GapsMoveNoCharge) {
+  struct Case {
+    std::vector<std::pair<int, std::optional<int>>> samples;  // seconds, µA
+    std::string moved;
+  };
+  const std::string unknown = " in which the current is not known";
+  const Case cases[] = {
+      {{{100, -360000}, {110, -720000}, {120, -720000}}, "-3.5 mAh"},
+      {{{0, 3600000}, {10, {}}, {20, {}}, {30, 3600000}, {40, 3600000}},
+       "10.0 mAh, without 1 gap of 30 s" + unknown},
+      {{{0, 3600000}, {10, 3600000}, {3720, 3600000}, {3730, 3600000}, {3740, {}}},
+       "20.0 mAh, without 2 gaps of 1 h 2 min 0 s in all" + unknown},
+  };
+  for (const Case& each : cases) {
+    Summary summary(Summary::Seconds(10));
+    for (const auto& [time, current] : each.samples) {
+      summary.Add(
+          Summary::Seconds(time),
+          current ? ReadingsOf({{dral::FuelGaugeProperty::CurrentNow, *current}}) : ReadingsOf({}));
+    }
+    EXPECT_EQ(summary.Lines().back(), "charge moved: " + each.moved);
+  }
+  EXPECT_TRUE(Summary(Summary::Seconds(1)).Lines().empty());
+}
+
+}  // namespace
+}  // namespace fuelgauge

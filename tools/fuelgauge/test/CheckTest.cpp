@@ -30,7 +30,7 @@ const std::map<std::string, int> Errors = {
     {"-", ENOENT}, {"!", ENODATA}, {"EIO", EIO}, {"EACCES", EACCES}};
 
 // A line of values in that order, '_' for a blank in one, or why there is none.
-Readings ReadingsOf(const std::string& line, const dral::LifetimeData& record) {
+Readings BatteryOf(const std::string& line, const dral::LifetimeData& record) {
   std::vector<Reading> readings;
   for (const Property& property : Properties) {
     readings.push_back({&property, dral::FuelGaugeStatus::Success, Hint(property.type)});
@@ -67,7 +67,7 @@ struct Battery {
 void Judge(const Battery& battery, bool wrong) {
   std::string findings;
   bool found = false;
-  for (const Finding& finding : Check(ReadingsOf(battery.line, battery.record))) {
+  for (const Finding& finding : Check(BatteryOf(battery.line, battery.record))) {
     findings.append(finding.rule->name).append(" ");
     found |= finding.rule->severity != Severity::Notice;
   }

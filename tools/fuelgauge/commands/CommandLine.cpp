@@ -1,0 +1,114 @@
+// SPDX-License-Identifier: MIT
+#include "commands/CommandLine.hpp"
+
+#include <CLI/CLI.hpp>
+#include <cstdlib>
+#include <exception>
+#include <iostream>
+#include <new>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "commands/Commands.hpp"
+#include "commands/RecordLock.hpp"
+#include "output/Message.hpp"
+#include "readings/UsageError.hpp"
+
+namespace fuelgauge {
+namespace {
+
+// The words of the command line, the last one first, as CLI11 wants them. Behind "--device=" it would
+// take the next word for the value.
+std::vector<std::string> Words(int argc, char** argv) {
+  std::vector<std::string> words;
+  for (int i = argc - 1; i > 0; --i) {
+    std::string word = argv[i];
+    if (word.starts_with("--") && word.ends_with("=")) {
+      words.emplace_back();
+      word.pop_back();
+    }
+    words.push_back(std::move(word));
+  }
+  return words;
+}
+
+// @return what is wrong, and the help that has the option or the word in question
+std::string Explain(const CLI::ParseError& error, const CLI::App& app) {
+  std::string text = error.what();
+  if (error.get_exit_code() == static_cast<int>(CLI::ExitCodes::ExtrasError)) {
+    text = "not expected:";
+    for (const std::string& word : app.remaining(true)) {  // in the order given
+      text.append(" '").append(word).append("'");
+    }
+  }
+  const auto commands = app.get_subcommands();
+  const bool shared = app.get_option_no_throw(text.substr(0, text.find(':'))) != nullptr;
+  const std::string command = shared || commands.empty() ? "" : commands[0]->get_name() + " ";
+  return text + "; 'fuelgauge " + command + "--help' shows the usage";
+}
+
+ExitStatus Run(int argc, char** argv) {
+  GaugeOptions which;
+  bool verbose = false;
+  CLI::App app("Reads, writes and resets the properties of a BQ27542 battery fuel gauge.",
+               "fuelgauge");
+  app.require_subcommand(0, 1);  // none is refused below: CLI11 would not name a wrong word
+  app.fallthrough();             // the options below may stand behind the command as well
+  app.set_version_flag("--version", "fuelgauge " KESP_VERSION);
+  app.add_option("--device", which.device,
+                 std::string("Folder of the gauge, instead of ") + DefaultFolder)
+      ->type_name("DIR")
+      ->check(NotEmpty);
+  app.add_option("--lifetime-file", which.lifetimeFile,
+                 "Fields that replace those of the lifetime record's reset value")
+      ->type_name("FILE")
+      ->check(NotEmpty);
+  app.add_flag("-v,--verbose", verbose, "Show the library's log on standard error");
+
+  Action action;
+  for (const Command& command : Commands) {
+    CLI::App* const parser = app.add_subcommand(command.name, command.description);
+    parser->callback([&action, run = command.add(*parser)] { action = run; });
+  }
+
+  try {
+    app.parse(Words(argc, argv));
+  } catch (const CLI::ParseError& error) {
+    if (error.get_exit_code() == static_cast<int>(CLI::ExitCodes::Success)) {
+      app.exit(error);  // --help or --version: prints it
+      return ExitStatus::Success;
+    }
+    throw UsageError(Explain(error, app));
+  }
+  if (!action) {
+    throw UsageError("no command given; 'fuelgauge --help' shows them all");
+  }
+
+  // The tool says itself what failed. The library's log, where the logger takes its level from the
+  // environment, is for those who ask for it.
+  ::setenv("KESP_LOG_LEVEL", verbose ? "8" : "0", verbose ? 1 : 0);
+  return action(which);
+}
+
+}  // namespace
+
+ExitStatus RunCommandLine(int argc, char** argv) {
+  try {
+    return Run(argc, argv);
+  } catch (const UsageError& error) {
+    Complain(error.what());
+    return ExitStatus::Usage;
+  } catch (const RecordBusy& error) {
+    Complain(error.what());
+    return ExitStatus::Busy;
+  } catch (const std::bad_alloc&) {
+    std::cerr << "fuelgauge: out of memory\n";  // needs none
+    return ExitStatus::Software;
+  } catch (const std::exception& error) {
+    Complain(error.what());
+    return ExitStatus::Software;
+  }
+}
+
+}  // namespace fuelgauge

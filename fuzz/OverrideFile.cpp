@@ -1,18 +1,15 @@
 // SPDX-License-Identifier: MIT
 // Any bytes as an override file: a valid record comes out, or one of the two exceptions.
-#include <unistd.h>
 #include <LifetimeDataParser.hpp>
-#include <LogOutput.hpp>
 
-#include <fstream>
 #include <stdexcept>
 
 #include "Target.hpp"
+#include "TemporaryFolder.hpp"
 
 void Target(const std::string& input) {
-  static const std::string path = "/dev/shm/fuelgauge-fuzz-" + std::to_string(::getpid());
-  dral::LogOutput::SetLevel(dral::LogLevel{0});
-  std::ofstream(path, std::ios::binary) << input;
+  static const TemporaryFolder folder;
+  const std::string path = folder.Write("file", input);
   try {
     const dral::LifetimeData data = dral::LifetimeDataParser(path, {}).GetLifetimeData();
     dral::LifetimeData again = data;

@@ -1,0 +1,98 @@
+// SPDX-License-Identifier: MIT
+// A gauge whose files hold any bytes, with a `|` between two: what is printed of them steers no
+// terminal, and can be parsed.
+#include <Bq27542FuelGauge.hpp>
+#include <algorithm>
+#include <charconv>
+#include <iostream>
+#include <regex>
+#include <set>
+#include <sstream>
+
+#include "Target.hpp"
+#include "TemporaryFolder.hpp"
+#include "commands/Commands.hpp"
+#include "output/Csv.hpp"
+#include "output/Json.hpp"
+
+using namespace fuelgauge;
+
+namespace {
+
+std::istringstream Printed(const std::function<void()>& print) {
+  std::stringbuf text;
+  auto* const before = std::cout.rdbuf(&text);
+  print();
+  std::cout.rdbuf(before);
+  (void)Json(text.str()).dump();  // throws on what is no UTF-8
+  unsigned char last = 0;
+  for (const char each : text.str()) {
+    const auto byte = static_cast<unsigned char>(each);
+    const bool c1 = last == 0xC2 && byte < 0xA0;
+    Require((byte >= 0x20 || each == '\n') && byte != 0x7F && !c1);
+    last = byte;
+  }
+  return std::istringstream(text.str());
+}
+
+// The line without what its quotes hold, where a `\` may escape a quote.
+std::string Unquoted(const std::string& line, bool escapes) {
+  std::string rest;
+  bool quoted = false;
+  for (std::size_t at = 0; at < line.size(); ++at) {
+    for (; quoted && escapes && line.at(at) == '\\'; at += 2) {
+      Require(std::string_view("\\\"n").find(line.at(at + 1)) != std::string_view::npos);
+    }
+    quoted ^= line.at(at) == '"';
+    rest.append(quoted ? 0 : 1, line[at]);
+  }
+  Require(!quoted);
+  return rest;
+}
+
+void RequireMetrics(std::istringstream lines) {
+  static const std::regex format(R"(# (HELP|TYPE) \w+.*|\w+(\{\w+="(,\w+=")*\})?)");
+  static std::set<std::string> known;  // heads that were matched: that takes its time
+  std::set<std::string> series;
+  for (std::string line; std::getline(lines, line);) {
+    const std::size_t end = line.rfind(' ');
+    const std::string head = Unquoted(line.substr(0, end), true);
+    Require(known.count(head) != 0 || std::regex_match(head, format));
+    Require(series.insert(line.substr(0, end)).second);
+    known.insert(head);
+    double number = 0;
+    const char* const last = line.data() + line.size();
+    Require(head[0] == '#' || std::from_chars(&line[end + 1], last, number).ptr == last);
+  }
+}
+
+}  // namespace
+
+void Target(const std::string& input) {
+  static const TemporaryFolder folder;
+  const GaugeOptions which{folder.At(""), ""};
+  static const auto files = dral::Bq27542FuelGauge::PropertyMapAt(which.device);
+  std::istringstream pieces(input);
+  for (const Property& property : Properties) {
+    std::string piece;
+    std::getline(pieces, piece, '|');
+    std::ofstream((*files)[property.id].location, std::ios::binary) << piece;
+  }
+  const auto run = [&which](Action (*add)(CLI::App & parser), const char* options) {
+    CLI::App parser;
+    const Action action = add(parser);
+    parser.parse(options);
+    return Printed([&] { action(which); });
+  };
+  run(AddList, "");
+  Require(Json::parse(run(AddList, "--json")).size() == 16);
+  RequireMetrics(run(AddMetrics, ""));
+  const Readings readings = Gauge(which).ReadAll();
+  std::istringstream csv = Printed([&] { (PrintCsvHeader(), PrintCsvLine("now", readings)); });
+  std::string header, line, more;
+  std::getline(std::getline(csv, header), line);
+  line = Unquoted(line, false);
+  Require(std::count(line.begin(), line.end(), ',') ==
+          std::count(header.begin(), header.end(), ','));
+  Require(!std::getline(csv, more));
+}

@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: MIT
+// A file of any bytes, read as each type: numbers are the standard library's in the C locale.
+#include <sstream>
+#include <stdexcept>
+
+#include "Readable.hpp"
+#include "Target.hpp"
+#include "TemporaryFolder.hpp"
+
+using namespace dral;
+
+namespace {
+
+// What came, or the kind and the text of the exception.
+template <typename Read>
+auto Outcome(Read read) {
+  std::pair<std::string, decltype(read())> outcome;
+  try {
+    outcome.second = read();
+  } catch (const std::invalid_argument& error) {
+    outcome.first = std::string("invalid ") + error.what();
+  } catch (const std::out_of_range& error) {
+    outcome.first = std::string("range ") + error.what();
+  }
+  return outcome;
+}
+
+}  // namespace
+
+void Target(const std::string& input) {
+  static const TemporaryFolder folder;
+  PropertyMap map;
+  map[FuelGaugeProperty::Name].location = folder.Write("file", input);
+  const auto get = [&map](auto hint) {
+    auto [status, value] = Readable(FuelGaugeProperty::Name, map).Get(hint);
+    return std::pair(status == FuelGaugeStatus::Success, std::get<decltype(hint)>(value));
+  };
+  std::string text = input;
+  std::erase(text, '\n');
+  Require(get(std::string()) == std::pair(!input.empty(), text));
+  const auto number = [&input] { return std::stoi(input); };
+  const auto unsignedNumber = [&input] {
+    const unsigned long value = std::stoul(input);
+    static_assert(sizeof(value) == 8, "the oracle needs a 64-bit host");
+    return value <= 0xFFFFFFFF ? static_cast<unsigned int>(value) : throw std::out_of_range(input);
+  };
+  Require(Outcome([&] { return get(0); }) == Outcome([&] { return std::pair(true, number()); }));
+  Require(Outcome([&] { return get(0U); }) ==
+          Outcome([&] { return std::pair(true, unsignedNumber()); }));
+  Require(Outcome([&] { return get(false); }) ==
+          Outcome([&] { return std::pair(true, number() == 1); }));
+  const auto [whole, record] = get(LifetimeData{});
+  std::ostringstream bytes, wanted;
+  bytes << record;
+  wanted << LifetimeData{};
+  wanted.seekp(0) << input.substr(0, 32);
+  Require(whole == (input.size() >= 32) && bytes.str() == wanted.str());
+}

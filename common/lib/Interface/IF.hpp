@@ -21,7 +21,8 @@ class KESP_EXPORT IF {
       std::unordered_map<std::string_view, std::function<std::unique_ptr<Interface>(Args...)>>;
 
   /// The registry for one argument list; empty unless a library fills it while it is loaded.
-  /// Read-only afterwards, and so safe to read from any thread.
+  /// A program may add names of its own: in a static initialiser, or before it has threads that
+  /// create objects. As long as none is added, any thread may read it.
   template <typename... Args>
   static Constructors<Args...> ifConstructors;
 };

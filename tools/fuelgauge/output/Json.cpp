@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "output/Json.hpp"
 
+#include <FuelGaugeNames.hpp>
 #include <iostream>
 #include <sstream>
 #include <variant>
@@ -9,22 +10,6 @@
 #include "readings/LifetimeField.hpp"
 
 namespace fuelgauge {
-
-using dral::FuelGaugeStatus;
-
-std::string_view StatusName(FuelGaugeStatus status) {
-  switch (status) {
-    case FuelGaugeStatus::Success:
-      return "Success";
-    case FuelGaugeStatus::Failure:
-      return "Failure";
-    case FuelGaugeStatus::FileError:
-      return "FileError";
-    case FuelGaugeStatus::NoData:
-      return "NoData";
-  }
-  return "unknown";
-}
 
 namespace {
 
@@ -44,7 +29,7 @@ Json ValueToJson(const T& value) {
 }  // namespace
 
 Json ToJson(const Reading& reading) {
-  Json answer = {{"status", StatusName(reading.status)}, {"value", nullptr}};
+  Json answer = {{"status", dral::NameOf(reading.status)}, {"value", nullptr}};
   if (reading.Succeeded()) {
     answer["value"] = std::visit([](const auto& held) { return ValueToJson(held); }, reading.value);
   } else {

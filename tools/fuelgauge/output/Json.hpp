@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <FuelGaugeStatus.hpp>
 #include <nlohmann/json.hpp>
-#include <string_view>
 
 #include "readings/Readings.hpp"
 
@@ -11,9 +9,6 @@ namespace fuelgauge {
 
 /// JSON objects keep their members in the order of the properties and fields.
 using Json = nlohmann::ordered_json;
-
-/// @return the enumerator's name
-std::string_view StatusName(dral::FuelGaugeStatus status);
 
 /// @return `{"status": …, "value": …}`; unless the status is Success the value is null, and there is
 ///         a "reason"

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "readings/Property.hpp"
 
-#include <algorithm>
 #include <string>
 
 #include "readings/UsageError.hpp"
@@ -27,35 +26,32 @@ dral::PropertyValue Hint(Type type) {
 }
 
 const std::array<Property, 17> Properties = {{
-    {Id::Name, "Name", Type::String, Unit::None, true},
-    {Id::Technology, "Technology", Type::String, Unit::None, false},
-    {Id::Status, "Status", Type::String, Unit::None, false},
-    {Id::Present, "Present", Type::Bool, Unit::None, false},
-    {Id::VoltageNow, "VoltageNow", Type::Int, Unit::Microvolt, false},
-    {Id::CurrentNow, "CurrentNow", Type::Int, Unit::Microampere, false},
-    {Id::StateOfCharge, "StateOfCharge", Type::Int, Unit::Percent, false},
-    {Id::ChargeLevel, "ChargeLevel", Type::String, Unit::None, true},
-    {Id::Temperature, "Temperature", Type::Int, Unit::TenthDegreeCelsius, false},
-    {Id::NominalAvailableCapacity, "NominalAvailableCapacity", Type::Int, Unit::MicroampereHour,
-     true},
-    {Id::FullChargeCapacity, "FullChargeCapacity", Type::Int, Unit::MicroampereHour, true},
-    {Id::CycleCount, "CycleCount", Type::Int, Unit::None, true},
-    {Id::PowerAverage, "PowerAverage", Type::Int, Unit::Microwatt, true},
-    {Id::Health, "Health", Type::String, Unit::None, true},
-    {Id::TimeToEmpty, "TimeToEmpty", Type::Int, Unit::Second, true},
-    {Id::LifetimeData, "LifetimeData", Type::Lifetime, Unit::None, true},
-    {Id::LifetimeDataResetValue, "LifetimeDataResetValue", Type::Lifetime, Unit::None, false},
+    {Id::Name, Type::String, Unit::None, true},
+    {Id::Technology, Type::String, Unit::None, false},
+    {Id::Status, Type::String, Unit::None, false},
+    {Id::Present, Type::Bool, Unit::None, false},
+    {Id::VoltageNow, Type::Int, Unit::Microvolt, false},
+    {Id::CurrentNow, Type::Int, Unit::Microampere, false},
+    {Id::StateOfCharge, Type::Int, Unit::Percent, false},
+    {Id::ChargeLevel, Type::String, Unit::None, true},
+    {Id::Temperature, Type::Int, Unit::TenthDegreeCelsius, false},
+    {Id::NominalAvailableCapacity, Type::Int, Unit::MicroampereHour, true},
+    {Id::FullChargeCapacity, Type::Int, Unit::MicroampereHour, true},
+    {Id::CycleCount, Type::Int, Unit::None, true},
+    {Id::PowerAverage, Type::Int, Unit::Microwatt, true},
+    {Id::Health, Type::String, Unit::None, true},
+    {Id::TimeToEmpty, Type::Int, Unit::Second, true},
+    {Id::LifetimeData, Type::Lifetime, Unit::None, true},
+    {Id::LifetimeDataResetValue, Type::Lifetime, Unit::None, false},
 }};
 
 const Property& FindProperty(std::string_view name) {
-  const auto* const found =
-      std::find_if(Properties.begin(), Properties.end(),
-                   [name](const Property& property) { return property.name == name; });
-  if (found == Properties.end()) {
+  const auto id = dral::PropertyNamed(name);
+  if (!id) {
     throw UsageError("no property named '" + std::string(name) +
                      "'; 'fuelgauge get --help' lists them");
   }
-  return *found;
+  return Properties.at(static_cast<std::size_t>(*id));
 }
 
 }  // namespace fuelgauge

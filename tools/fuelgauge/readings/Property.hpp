@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <FuelGaugeProperty.hpp>
+#include <FuelGaugeNames.hpp>
 #include <PropertyValue.hpp>
 #include <array>
 #include <string_view>
@@ -19,10 +19,10 @@ dral::PropertyValue Hint(Type type);
 /// What the tool knows of a property.
 struct Property {
   dral::FuelGaugeProperty id;
-  std::string_view name;
   Type type;  ///< its natural one
   Unit unit;
   bool optional;  ///< a driver of a gauge in order may not offer its file
+  std::string_view name = dral::NameOf(id);
 };
 
 /// All of them in the order of their numbers; the last, the reset value, has no file.

@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <iostream>
-#include <map>
 #include <memory>
 
 #include "commands/Commands.hpp"
@@ -14,19 +13,10 @@
 namespace fuelgauge {
 namespace {
 
-const std::map<std::string, Severity> Severities = {
-    {"notice", Severity::Notice}, {"warning", Severity::Warning}, {"error", Severity::Error}};
-
 struct CheckOptions {
   bool json = false;
   std::string severity = "warning";
 };
-
-const std::string& NameOf(Severity severity) {
-  return std::find_if(Severities.begin(), Severities.end(),
-                      [severity](const auto& each) { return each.second == severity; })
-      ->first;
-}
 
 // Such as "Status Discharging, CurrentNow 412 mA".
 std::string ValuesForPeople(const Evidence& evidence, const Readings& readings) {
@@ -83,8 +73,12 @@ void PrintForPeople(const std::vector<Finding>& findings, const Readings& readin
     std::cout << NameOf(rule->severity) << ": " << rule->name << ": " << rule->reason << " ("
               << TerminalSafe(ValuesForPeople(evidence, readings)) << ")\n";
   }
+  const std::string_view energy = readings.EnergyRemark();
+  if (!energy.empty()) {
+    std::cout << "normal: " << energy << "\n";
+  }
   for (const Reading& reading : readings) {
-    if (reading.MayBeMissing()) {
+    if (energy.empty() && reading.MayBeMissing()) {
       std::cout << "normal: " << reading.property->name << ": " << reading.Reason() << "\n";
     }
   }

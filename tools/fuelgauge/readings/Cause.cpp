@@ -36,6 +36,11 @@ constexpr std::array Errors = {
     ErrorInfo{ENODEV, "ENODEV", "the gauge has gone, or does not answer"},
 };
 
+const ErrorInfo* Find(int error) {
+  return std::find_if(Errors.begin(), Errors.end(),
+                      [error](const ErrorInfo& info) { return info.error == error; });
+}
+
 // @return what @p call gives once no signal interrupts it
 template <typename Call>
 auto Uninterrupted(Call call) {
@@ -75,9 +80,13 @@ dral::FuelGaugeStatus Cause::Status(bool record) const {
   return text.empty() || record ? NoData : Failure;
 }
 
+std::string ErrorName(int error) {
+  const auto* const found = Find(error);
+  return found == Errors.end() ? std::to_string(error) : std::string(found->name);
+}
+
 std::string ErrorText(int error) {
-  const auto* const found = std::find_if(
-      Errors.begin(), Errors.end(), [error](const ErrorInfo& info) { return info.error == error; });
+  const auto* const found = Find(error);
   return found == Errors.end()
              ? std::strerror(error)
              : std::string(found->meaning).append(" (").append(found->name).append(")");

@@ -19,6 +19,9 @@ struct Cause {
   dral::FuelGaugeStatus Status(bool record) const;
 };
 
+/// @return its name, such as "ENOENT", or the number of one that no such file was seen to answer
+std::string ErrorName(int error);
+
 /// @return @p error in words and by its name, such as "no such file (ENOENT)"
 std::string ErrorText(int error);
 

@@ -70,8 +70,8 @@ void RequireMetrics(std::istringstream lines) {
 
 void Target(const std::string& input) {
   static const TemporaryFolder folder;
-  const GaugeOptions which{folder.At(""), ""};
-  static const auto files = dral::Bq27542FuelGauge::PropertyMapAt(which.device);
+  const GaugeOptions which{{folder.At("")}, ""};
+  static const auto files = dral::Bq27542FuelGauge::PropertyMapAt(which.devices.front());
   std::istringstream pieces(input);
   for (const Property& property : Properties) {
     std::string piece;

@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <iostream>
-#include <map>
 #include <memory>
 #include <vector>
 
@@ -17,20 +16,11 @@
 namespace fuelgauge {
 namespace {
 
-const std::map<std::string, Severity> Severities = {
-    {"notice", Severity::Notice}, {"warning", Severity::Warning}, {"error", Severity::Error}};
-
 struct CheckOptions {
   bool json = false;
   std::string severity = "warning";
   std::vector<Rule> limits;
 };
-
-const std::string& NameOf(Severity severity) {
-  return std::find_if(Severities.begin(), Severities.end(),
-                      [severity](const auto& each) { return each.second == severity; })
-      ->first;
-}
 
 // In quotes, since a blank may be what is wrong with a text.
 std::string ValueForPeople(const Reading& reading) {
@@ -93,8 +83,12 @@ void PrintForPeople(const std::vector<Finding>& findings, const Readings& readin
     std::cout << NameOf(rule->severity) << ": " << rule->name << ": " << rule->reason << " ("
               << TerminalSafe(ValuesForPeople(evidence, readings)) << ")\n";
   }
+  const std::string_view energy = readings.EnergyRemark();
+  if (!energy.empty()) {
+    std::cout << "normal: " << energy << "\n";
+  }
   for (const Reading& reading : readings) {
-    if (reading.MayBeMissing()) {
+    if (energy.empty() && reading.MayBeMissing()) {
       std::cout << "normal: " << reading.property->name << ": " << reading.Reason() << "\n";
     }
   }

@@ -56,9 +56,11 @@ ExitStatus Run(int argc, char** argv) {
   app.require_subcommand(0, 1);  // none is refused below: CLI11 would not name a wrong word
   app.fallthrough();             // the options below may stand behind the command as well
   app.set_version_flag("--version", "fuelgauge " KESP_VERSION);
-  app.add_option("--device", which.device,
-                 std::string("Folder of the gauge, instead of ") + DefaultFolder)
-      ->type_name("DIR")
+  app.add_option("--device", which.devices,
+                 std::string("A supply's name in ") + SupplyClass + ", or its folder; without it " +
+                     DefaultDevice)
+      ->type_name("NAME|DIR")
+      ->allow_extra_args(false)
       ->check(NotEmpty);
   app.add_option("--lifetime-file", which.lifetimeFile,
                  "Fields that replace those of the lifetime record's reset value")

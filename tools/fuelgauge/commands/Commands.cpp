@@ -11,6 +11,7 @@ const std::vector<Command> Commands = {
     {"watch", "Show a sample again and again", AddWatch},
     {"metrics", "Print what Prometheus reads", AddMetrics},
     {"check", "Tell whether the gauge makes sense", AddCheck},
+    {"devices", "List the batteries that the kernel has", AddDevices},
 };
 
 std::string NotEmpty(const std::string& name) {

@@ -36,5 +36,6 @@ Action AddReset(CLI::App& parser);
 Action AddWatch(CLI::App& parser);
 Action AddMetrics(CLI::App& parser);
 Action AddCheck(CLI::App& parser);
+Action AddDevices(CLI::App& parser);
 
 }  // namespace fuelgauge

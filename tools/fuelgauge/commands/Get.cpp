@@ -60,7 +60,7 @@ ExitStatus Get(const Gauge& gauge, const GetOptions& options) {
     std::visit(PrintBare{}, reading.value);
   }
   if (!reading.Succeeded()) {
-    Complain(options.property + ": " + reading.Reason());
+    Complain(options.property + ": " + reading.Reason() + gauge.Others());
   }
   return ToExitStatus(reading);
 }

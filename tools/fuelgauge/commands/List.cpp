@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <iostream>
 #include <memory>
 
 #include "commands/Commands.hpp"
@@ -24,11 +25,18 @@ ExitStatus List(const Gauge& gauge, bool json) {
   if (json) {
     Print(ToJson(readings));
   } else {
+    const std::string_view energy = readings.EnergyRemark();
     for (const Reading& reading : readings) {
+      if (!energy.empty() && reading.MayBeMissing()) {
+        continue;
+      }
       PrintRow(reading.property->name, reading.ForPeople(), Remark(reading));
       if (const auto* record = reading.Record()) {
         PrintFields(*record);
       }
+    }
+    if (!energy.empty()) {
+      std::cout << energy << "\n";
     }
   }
   if (!readings.AnySucceeded()) {

@@ -3,39 +3,78 @@
 
 #include <iostream>
 #include <memory>
+#include <optional>
 
 #include "commands/Commands.hpp"
 #include "output/Message.hpp"
 #include "output/OutputFile.hpp"
+#include "readings/Supplies.hpp"
+#include "readings/UsageError.hpp"
 
 namespace fuelgauge {
 namespace {
 
-ExitStatus Metrics(const Gauge& gauge, const std::optional<std::string>& output) {
-  const std::string text = MetricsOf(gauge.ReadAll());
-  if (!output) {
-    std::cout << text;
-    return ExitStatus::Success;
+struct MetricsOptions {
+  bool all = false;
+  std::optional<std::string> output;
+};
+
+std::vector<GaugeOptions> Gauges(const GaugeOptions& which, bool all) {
+  std::vector<GaugeOptions> gauges;
+  if (!all && which.devices.empty()) {
+    gauges.push_back(which);
   }
+  for (const std::string& device : which.devices) {
+    gauges.push_back({{device}, which.lifetimeFile});
+  }
+  for (const Supply& supply : all ? Supplies() : std::vector<Supply>()) {
+    if (supply.IsBattery()) {
+      gauges.push_back({{supply.name}, which.lifetimeFile});
+    }
+  }
+  return gauges;
+}
+
+ExitStatus Metrics(const GaugeOptions& which, const MetricsOptions& options) {
+  if (options.all && !which.devices.empty()) {
+    throw UsageError("--all: it names every battery, and --device some");
+  }
+  std::map<std::string, Readings> supplies;
+  for (const GaugeOptions& each : Gauges(which, options.all)) {
+    const Gauge gauge(each);
+    if (!supplies.emplace(gauge.SupplyName(), gauge.ReadAll()).second) {
+      throw UsageError("--device: two have the name '" + gauge.SupplyName() + "'");
+    }
+  }
+  const std::string text = MetricsOf(supplies);
   try {
-    OutputFile(*output).Write(text);
-    return ExitStatus::Success;
+    if (options.output) {
+      OutputFile(*options.output).Write(text);
+    } else {
+      std::cout << text;
+    }
   } catch (const OutputError& error) {
     Complain(error.what());
     return ExitStatus::OutputError;
   }
+  if (supplies.empty()) {
+    Complain("no battery; " + SuppliesForPeople());
+    return ExitStatus::FileError;
+  }
+  return ExitStatus::Success;
 }
 
 }  // namespace
 
 Action AddMetrics(CLI::App& parser) {
-  const auto output = std::make_shared<std::optional<std::string>>();
+  const auto options = std::make_shared<MetricsOptions>();
+  parser.add_flag("--all", options->all, "Every battery that the kernel has");
   parser
-      .add_option("--output", *output,
+      .add_option("--output", options->output,
                   "Put the text in place as this file, whole; links are followed")
       ->type_name("FILE")
       ->check(NotEmpty);
-  return [output](const GaugeOptions& which) { return Metrics(Gauge(which), *output); };
+  return [options](const GaugeOptions& which) { return Metrics(which, *options); };
 }
 
 }  // namespace fuelgauge

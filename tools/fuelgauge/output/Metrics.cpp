@@ -6,6 +6,7 @@
 #include <cstdint>
 
 #include "output/MetricsText.hpp"
+#include "readings/Check.hpp"
 #include "readings/Words.hpp"
 
 namespace fuelgauge {
@@ -123,30 +124,51 @@ void AddInfo(MetricsText& text, const Readings& readings) {
   }
 }
 
+// The errno's name, or what was read instead of a value.
+std::string ErrorOf(const Reading& reading) {
+  if (reading.cause.error != 0) {
+    return ErrorName(reading.cause.error);
+  }
+  return reading.status == dral::FuelGaugeStatus::Failure ? "not understood" : "no data";
+}
+
 void AddReads(MetricsText& text, const Readings& readings) {
   text.Family("read_success", "gauge", "Whether the property could be read.");
   for (const Reading& reading : readings) {
     text.Sample(reading.Succeeded() ? 1 : 0, 0,
                 {{"property", std::string(reading.property->name)}});
   }
-  text.Family(
-      "read_status", "gauge",
-      "How the read ended: 0 read, 2 not understood, 3 cannot be opened, 4 an error or no data.");
   for (const Reading& reading : readings) {
-    text.Sample(static_cast<int>(reading.status), 0,
-                {{"property", std::string(reading.property->name)}});
+    if (!reading.Succeeded()) {
+      text.Family("read_error", "gauge", "Why the property could not be read.");
+      text.Sample(1, 0,
+                  {{"property", std::string(reading.property->name)}, {"error", ErrorOf(reading)}});
+    }
+  }
+}
+
+void AddFindings(MetricsText& text, const Readings& readings) {
+  for (const Finding& finding : Check(readings)) {
+    text.Family("check_finding", "gauge", "A rule that the readings break.");
+    text.Sample(
+        1, 0,
+        {{"rule", std::string(finding.rule->name)}, {"severity", NameOf(finding.rule->severity)}});
   }
 }
 
 }  // namespace
 
-std::string MetricsOf(const Readings& readings) {
+std::string MetricsOf(const std::map<std::string, Readings>& supplies) {
   MetricsText text;
-  AddInfo(text, readings);
-  AddNumbers(text, readings);
-  AddStates(text, readings);
-  AddRecord(text, readings);
-  AddReads(text, readings);
+  for (const auto& [name, readings] : supplies) {
+    text.Supply(name);
+    AddInfo(text, readings);
+    AddNumbers(text, readings);
+    AddStates(text, readings);
+    AddRecord(text, readings);
+    AddReads(text, readings);
+    AddFindings(text, readings);
+  }
   return text.Text();
 }
 

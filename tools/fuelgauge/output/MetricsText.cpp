@@ -39,19 +39,34 @@ std::string Decimal(std::int64_t number, int decimals) {
 }  // namespace
 
 void MetricsText::Family(std::string_view name, std::string_view type, std::string_view help) {
-  family.assign("fuelgauge_").append(name);
-  text.append("# HELP ").append(family).append(" ").append(help).append("\n");
-  text.append("# TYPE ").append(family).append(" ").append(type).append("\n");
+  const std::string full = "fuelgauge_" + std::string(name);
+  const auto found = std::find_if(families.begin(), families.end(),
+                                  [&full](const Block& each) { return each.name == full; });
+  if (found != families.end()) {
+    family = &*found;
+    return;
+  }
+  family = &families.emplace_back();
+  family->name = full;
+  family->text.append("# HELP ").append(full).append(" ").append(help).append("\n");
+  family->text.append("# TYPE ").append(full).append(" ").append(type).append("\n");
 }
 
 void MetricsText::Sample(std::int64_t number, int decimals, const Labels& labels) {
-  text.append(family);
-  char before = '{';
+  std::string& text = family->text;
+  text.append(family->name).append("{power_supply=").append(Quoted(supply));
   for (const auto& [name, value] : labels) {
-    text.append(1, before).append(name).append("=").append(Quoted(value));
-    before = ',';
+    text.append(",").append(name).append("=").append(Quoted(value));
   }
-  text.append(labels.empty() ? " " : "} ").append(Decimal(number, decimals)).append("\n");
+  text.append("} ").append(Decimal(number, decimals)).append("\n");
+}
+
+std::string MetricsText::Text() const {
+  std::string text;
+  for (const Block& block : families) {
+    text.append(block.text);
+  }
+  return text;
 }
 
 }  // namespace fuelgauge

@@ -9,22 +9,32 @@
 
 namespace fuelgauge {
 
-/// Builds a text in the Prometheus exposition format: families, each with its samples.
+/// Builds a text in the Prometheus exposition format: families, each with its samples, whatever the
+/// order in which they come.
 class MetricsText {
  public:
   using Labels = std::vector<std::pair<std::string_view, std::string>>;
 
-  /// Begins a family, "fuelgauge_" and @p name; @p type is "gauge" or "counter".
+  /// The samples from now on are those of the supply of this @p name.
+  void Supply(std::string name) { supply = std::move(name); }
+
+  /// Begins a family, "fuelgauge_" and @p name, or goes on with it; @p type is "gauge" or "counter".
   void Family(std::string_view name, std::string_view type, std::string_view help);
 
   /// Adds a sample to the family: @p number divided by ten to the @p decimals, exactly.
   void Sample(std::int64_t number, int decimals = 0, const Labels& labels = {});
 
-  const std::string& Text() const { return text; }
+  std::string Text() const;
 
  private:
-  std::string family;
-  std::string text;
+  struct Block {
+    std::string name;
+    std::string text;
+  };
+
+  std::string supply;
+  std::vector<Block> families;
+  Block* family = nullptr;  // the one that samples go to
 };
 
 }  // namespace fuelgauge

@@ -46,6 +46,11 @@ std::string TooLarge(const std::string& path, const std::string& size) {
   return "'" + path + "' has " + size + " bytes, which no attribute has";
 }
 
+const ErrorInfo* FindError(int error) {
+  return std::find_if(Errors.begin(), Errors.end(),
+                      [error](const ErrorInfo& info) { return info.error == error; });
+}
+
 // @return what @p call gives once no signal interrupts it
 template <typename Call>
 auto Uninterrupted(Call call) {
@@ -110,9 +115,13 @@ std::string WriteRefusal(const std::string& path) {
   return errno == EACCES ? "no permission to write it (EACCES)" : ErrorText(errno);
 }
 
+std::string ErrorName(int error) {
+  const auto* const found = FindError(error);
+  return found == Errors.end() ? std::to_string(error) : std::string(found->name);
+}
+
 std::string ErrorText(int error) {
-  const auto* const found = std::find_if(
-      Errors.begin(), Errors.end(), [error](const ErrorInfo& info) { return info.error == error; });
+  const auto* const found = FindError(error);
   return found == Errors.end()
              ? std::strerror(error)
              : std::string(found->meaning).append(" (").append(found->name).append(")");

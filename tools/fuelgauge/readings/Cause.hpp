@@ -26,6 +26,9 @@ struct Cause {
 /// @return why the file at @p path cannot be opened for writing, in words
 std::string WriteRefusal(const std::string& path);
 
+/// @return its name, such as "ENOENT", or the number of one that no such file was seen to answer
+std::string ErrorName(int error);
+
 /// @return @p error in words and by its name, such as "no such file (ENOENT)"
 std::string ErrorText(int error);
 

@@ -78,7 +78,8 @@ bool Zero(const Reading& reading) {
 
 bool Negative(const Reading& reading) {
   const Id id = reading.property->id;
-  return (id == NominalAvailableCapacity || id == CycleCount || id == TimeToEmpty) &&
+  const bool counted = id == NominalAvailableCapacity || id == CycleCount || id == TimeToEmpty;
+  return (counted || (id == VoltageNow && reading.otherDriver)) &&  // ours has a range
          reading.Number().value_or(0) < 0;
 }
 

@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "readings/Gauge.hpp"
 
+#include <unistd.h>
+
 #include <Bq27542FuelGauge.hpp>
 #include <utility>
 
 #include "readings/LifetimeFile.hpp"
+#include "readings/UsageError.hpp"
 
 namespace fuelgauge {
 
@@ -12,13 +15,16 @@ using dral::Bq27542FuelGauge;
 using dral::FuelGaugeStatus;
 
 Gauge::Gauge(const GaugeOptions& which)
-    : folder(which.device.empty() ? DefaultFolder : which.device),
+    : folder(SupplyFolder(which.devices.empty() ? DefaultDevice : which.devices.front())),
       files(Bq27542FuelGauge::PropertyMapAt(folder)) {
+  if (which.devices.size() > 1) {
+    throw UsageError("--device: 'metrics' alone takes more than one");
+  }
   const std::string& lifetimeFile = which.lifetimeFile;
   if (!lifetimeFile.empty()) {
     CheckLifetimeFile(lifetimeFile);
   }
-  if (which.device.empty()) {
+  if (which.devices.empty()) {
     gauge = dral::InterfaceFactory::Create<dral::FuelGaugeIF, std::string_view>("Bq27542FuelGauge",
                                                                                 lifetimeFile);
   } else {
@@ -59,13 +65,20 @@ Reading Gauge::Read(const Property& property, Type type) const {
 }
 
 Readings Gauge::ReadAll() const {
+  const bool otherDriver = HasOtherDriver(folder);
   std::vector<Reading> readings;
   for (const Property& property : Properties) {
     if (files->contains(property.id)) {  // the reset value has none
       readings.push_back(Read(property));
+      readings.back().otherDriver = otherDriver;
     }
   }
-  return Readings(std::move(readings));
+  return Readings(std::move(readings), otherDriver && CountsEnergy(folder));
+}
+
+std::string Gauge::Others() const {
+  const bool missing = folder.starts_with(SupplyClass) && ::access(folder.c_str(), F_OK) != 0;
+  return missing ? "; " + SuppliesForPeople() : "";
 }
 
 std::string Gauge::File(const Property& property) const {
@@ -74,7 +87,7 @@ std::string Gauge::File(const Property& property) const {
 }
 
 std::string Gauge::Missing(const Readings& readings) const {
-  return "no property could be read in '" + folder + "': " + readings.Telling().Reason();
+  return "no property could be read in '" + folder + "': " + readings.Telling().Reason() + Others();
 }
 
 }  // namespace fuelgauge

@@ -5,25 +5,28 @@
 #include <PropertyInfo.hpp>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "readings/Readings.hpp"
+#include "readings/Supplies.hpp"
 
 namespace fuelgauge {
 
-/// The folder of the device's own gauge.
-constexpr auto DefaultFolder = "/sys/class/power_supply/bq27542-0";
+/// The supply that is the device's own gauge.
+constexpr auto DefaultDevice = "bq27542-0";
 
 /// Which gauge, as the command line names it.
 struct GaugeOptions {
-  std::string device;        ///< its folder; empty: the device's own gauge
-  std::string lifetimeFile;  ///< an override file; empty: none
+  std::vector<std::string> devices;  ///< the supply's name or folder; none: the device's own gauge
+  std::string lifetimeFile;          ///< an override file; empty: none
 };
 
 /// That gauge.
 class Gauge {
  public:
   /// Opens the device's own gauge through the factory, as an application would.
-  /// @throws UsageError when the lifetime file cannot be read, or naming its bad entry
+  /// @throws UsageError when @p which names several, when the lifetime file cannot be read, or
+  ///         naming its bad entry
   explicit Gauge(const GaugeOptions& which);
 
   dral::FuelGaugeIF* operator->() const { return gauge.get(); }
@@ -37,6 +40,12 @@ class Gauge {
 
   /// @return the path of the property's file; empty when it has none
   std::string File(const Property& property) const;
+
+  /// @return the name under which the kernel has it
+  std::string SupplyName() const { return fuelgauge::SupplyName(folder); }
+
+  /// @return what to add to a message when the kernel has no such supply: which there are; else nothing
+  std::string Others() const;
 
   /// @return what to say when not one of @p readings succeeded
   std::string Missing(const Readings& readings) const;

@@ -95,6 +95,9 @@ std::string Reading::Reason() const {
   if (cause.error == ENOENT && property->id == LifetimeData) {
     return "no such file, which only a vendor's driver offers (ENOENT)";
   }
+  if (cause.error == ENODEV && otherDriver) {
+    return "its driver has no value now (ENODEV)";
+  }
   if (cause.error != 0) {
     return ErrorText(cause.error);
   }
@@ -119,6 +122,9 @@ bool Reading::CameBack() const {
 }
 
 bool Reading::MayBeMissing() const {
+  if (otherDriver) {  // ENODEV is how ACPI's says that it does not know
+    return cause.error == ENOENT || cause.error == ENODATA || cause.error == ENODEV;
+  }
   return (cause.error == ENOENT && property->optional) ||
          (cause.error == ENODATA && property->id == TimeToEmpty);
 }

@@ -17,7 +17,8 @@ struct Reading {
   const Property* property;
   dral::FuelGaugeStatus status;
   dral::PropertyValue value;
-  Cause cause = {};  ///< when it was not read
+  Cause cause = {};          ///< when it was not read
+  bool otherDriver = false;  ///< one that may lack any file, and has other conventions
 
   bool Succeeded() const { return status == dral::FuelGaugeStatus::Success; }
 
@@ -40,8 +41,8 @@ struct Reading {
   /// @return whether it was not read although its file holds such a value: the bus fails now and then
   bool CameBack() const;
 
-  /// @return whether a gauge in order may fail to give this: a file that its driver may lack, or an
-  ///         estimate of the time to empty
+  /// @return whether a gauge in order may fail to give this: a file that its driver may lack, an
+  ///         estimate of the time to empty, or what another driver has not
   bool MayBeMissing() const;
 };
 

@@ -20,7 +20,8 @@ bool Readings::AnySucceeded() const {
 }
 
 const Reading& Readings::Telling() const {
-  return *std::find_if_not(begin(), end(), std::mem_fn(&Reading::MayBeMissing));
+  const auto found = std::find_if_not(begin(), end(), std::mem_fn(&Reading::MayBeMissing));
+  return found == end() ? all.front() : *found;
 }
 
 }  // namespace fuelgauge

@@ -14,7 +14,8 @@ namespace fuelgauge {
 /// their numbers.
 class Readings {
  public:
-  explicit Readings(std::vector<Reading> all) : all(std::move(all)) {}
+  explicit Readings(std::vector<Reading> all, bool countEnergy = false)
+      : all(std::move(all)), countEnergy(countEnergy) {}
 
   const Reading& operator[](dral::FuelGaugeProperty id) const;
 
@@ -25,10 +26,22 @@ class Readings {
   }
   const dral::LifetimeData* Record() const;
 
+  /// @return whether a driver other than this gauge's gave them
+  bool AreOfOtherDriver() const { return all.front().otherDriver; }
+
+  /// @return for a battery that counts energy, what to say instead of each value that is not there
+  std::string_view EnergyRemark() const {
+    return countEnergy
+               ? "this battery counts energy: only its status, presence, voltage and charge "
+                 "in % are told here"
+               : "";
+  }
+
   /// @return whether any of them could be read
   bool AnySucceeded() const;
 
-  /// @return the reading that tells most of a gauge that gives nothing: the first that must be there
+  /// @return the reading that tells most of a gauge that gives nothing: the first that must be there,
+  ///         or the first
   const Reading& Telling() const;
 
   auto begin() const { return all.begin(); }
@@ -36,6 +49,7 @@ class Readings {
 
  private:
   std::vector<Reading> all;
+  bool countEnergy;
 };
 
 }  // namespace fuelgauge

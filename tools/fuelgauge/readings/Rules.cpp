@@ -2,6 +2,7 @@
 #include "readings/Rules.hpp"
 
 #include <algorithm>
+#include <utility>
 
 #include "readings/Conditions.hpp"
 
@@ -65,25 +66,41 @@ Find Fields(bool (*broken)(const dral::LifetimeData&, const LifetimeField&)) {
   };
 }
 
+// Asks only of what this gauge's own driver says: its registers, its cell, the sign of its current.
+Find OfOurDriver(Find find) {
+  return [find = std::move(find)](const Readings& readings) {
+    return readings.AreOfOtherDriver() ? Evidence{} : find(readings);
+  };
+}
+
 }  // namespace
+
+const std::map<std::string, Severity> Severities = {
+    {"notice", Notice}, {"warning", Warning}, {"error", Error}};
+
+const std::string& NameOf(Severity severity) {
+  return std::find_if(Severities.begin(), Severities.end(),
+                      [severity](const auto& each) { return each.second == severity; })
+      ->first;
+}
 
 const std::vector<Rule> Rules = {
     {"all-ones",
      Error,
      "registers read all ones: nothing answered these reads",
-     Each(AllOnes),
+     OfOurDriver(Each(AllOnes)),
      {"charge-range", "charge-full", "charges-disagree", "full-early", "level", "temperature-range",
       "voltage-range"}},
     {"all-zero",
      Error,
      "registers read zero: the chip was not ready for these reads, or is not there",
-     EachIfAny(Zero, NeverZero),
+     OfOurDriver(EachIfAny(Zero, NeverZero)),
      {"charge-full", "charges-disagree", "full-early", "level", "temperature-range",
       "voltage-range"}},
     {"no-battery", Error, "the kernel sees no battery, or its bus is dead", Outside(Present, 1, 1)},
     {"unreadable", Error, "a value that should be there cannot be read", Each(Missing)},
     {"voltage-range", Error, "a single cell has from 2 to 5 V",
-     Outside(VoltageNow, 2000000, 5000000)},
+     OfOurDriver(Outside(VoltageNow, 2000000, 5000000))},
     {"charge-range",
      Error,
      "a charge is from 0 to 100 %: a register was misread",
@@ -98,12 +115,12 @@ const std::vector<Rule> Rules = {
     {"unknown-word", Warning, "the kernel has no such word", Each(UnknownWord), {"health"}},
     {"current-sign", Warning,
      "the current flows the other way than the status says: some kernels turn the sign",
-     When({Status, CurrentNow}, WrongSign)},
+     OfOurDriver(When({Status, CurrentNow}, WrongSign))},
     {"current-status", Warning,
      "the battery is being discharged, and the status says that it is not",
-     When({Status, CurrentNow}, DrainsUnseen)},
+     OfOurDriver(When({Status, CurrentNow}, DrainsUnseen))},
     {"full-early", Warning, "the status says full, the charge in % does not",
-     When({Status, StateOfCharge}, FullTooEarly)},
+     OfOurDriver(When({Status, StateOfCharge}, FullTooEarly))},
     {"level", Warning, "the charge level and the charge in % contradict each other",
      When({ChargeLevel, StateOfCharge}, LevelContradicts)},
     {"charges-disagree", Warning,
@@ -118,11 +135,11 @@ const std::vector<Rule> Rules = {
     {"power-scale", Notice,
      "the mean power is ten times voltage times current: a load that has just dropped or, when it "
      "stays so, a driver that counts 10 mW where the chip counts 1",
-     When({PowerAverage, VoltageNow, CurrentNow}, PowerTenfold)},
+     OfOurDriver(When({PowerAverage, VoltageNow, CurrentNow}, PowerTenfold))},
     {"power-zero", Notice,
      "a current flows and the mean power is 0: a load that has just begun or, when it stays so, a "
      "chip that does not measure it",
-     When({PowerAverage, VoltageNow, CurrentNow}, PowerZero)},
+     OfOurDriver(When({PowerAverage, VoltageNow, CurrentNow}, PowerZero))},
     {"calibration", Notice,
      "the gauge wants a learning cycle, a full discharge and charge; until then it guesses",
      When({Health}, Uncalibrated)},

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <functional>
+#include <map>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -16,6 +17,11 @@ enum class Severity {
   Warning,  ///< values may be wrong, or the battery unwell
   Error,    ///< values are wrong
 };
+
+/// By their names, "notice", "warning" and "error".
+extern const std::map<std::string, Severity> Severities;
+
+const std::string& NameOf(Severity severity);
 
 /// What breaks a rule; empty when nothing does.
 struct Evidence {

@@ -27,13 +27,14 @@ constexpr auto Attributes = {Status,
                              TimeToEmpty};
 
 const std::map<std::string, int> Errors = {
-    {"-", ENOENT}, {"!", ENODATA}, {"EIO", EIO}, {"EACCES", EACCES}};
+    {"-", ENOENT}, {"!", ENODATA}, {"EIO", EIO}, {"ENODEV", ENODEV}, {"EACCES", EACCES}};
 
 // A line of values in that order, '_' for a blank in one, or why there is none.
-Readings BatteryOf(const std::string& line, const dral::LifetimeData& record) {
+Readings BatteryOf(const std::string& line, const dral::LifetimeData& record, bool otherDriver) {
   std::vector<Reading> readings;
   for (const Property& property : Properties) {
-    readings.push_back({&property, dral::FuelGaugeStatus::Success, Hint(property.type)});
+    readings.push_back(
+        {&property, dral::FuelGaugeStatus::Success, Hint(property.type), {}, otherDriver});
   }
   readings.pop_back();  // the reset value
   readings[static_cast<std::size_t>(Technology)].value = "Li-ion";
@@ -62,12 +63,14 @@ struct Battery {
   std::string line;
   std::string findings;
   dral::LifetimeData record = {};
+  bool otherDriver = false;
 };
 
 void Judge(const Battery& battery, bool wrong) {
   std::string findings;
   bool found = false;
-  for (const Finding& finding : Check(BatteryOf(battery.line, battery.record))) {
+  for (const Finding& finding :
+       Check(BatteryOf(battery.line, battery.record, battery.otherDriver))) {
     findings.append(finding.rule->name).append(" ");
     found |= finding.rule->severity != Severity::Notice;
   }
@@ -121,6 +124,12 @@ TEST(Check, OrdinaryBatteriesGiveNoticesAtMost) {
        "calibration "},
       {"at the limits", "Unknown 5000000 10000 100 Normal 1400 1 1 0 0 Good 0", ""},
       {"at the lower ones", "Discharging 2000000 10000 0 Critical -600 0 1 0 0 Good 0", ""},
+      {"a laptop's three cells",
+       "Discharging 11400000 1312000 74 Normal - 3100000 4200000 65535 - - -",
+       "",
+       {},
+       true},
+      {"another driver that knows little", "Full - ENODEV 80 - - - - - - - !", "", {}, true},
       {"a driver that lacks what it may", "Discharging 3786000 -412000 74 - 251 - - - - - -", ""},
   };
   for (const Battery& battery : batteries) {
@@ -187,6 +196,11 @@ TEST(Check, BrokenOnesGiveWhatIsWrongAndNotWhatFollows) {
       {"dead at 74 %",
        "Discharging 3786000 -412000 74 Normal 251 1553000 2058000 96 -1560000 Dead 13560",
        "health "},
+      {"what no battery of any driver has",
+       "charging -1 EIO 110 Normal 1401 - - -1 - Good -",
+       "unreadable charge-range temperature-range negative unknown-word ",
+       {},
+       true},
       {"a record crossed", good, "record-crossed ", {100, 200, 4000, 3000, 0, 0}},
       {"voltages crossed", good, "record-crossed ", {100, 0, 3000, 3001, 0, 0}},
       {"a record beyond limits", good, "record-invalid ", {1401, 0, 32768, 3000, 0, 0}},

@@ -40,7 +40,7 @@ TEST(MetricsText, NumbersAreExact) {
     text.Sample(each.number, each.decimals);
     EXPECT_EQ(text.Text(),
               "# HELP fuelgauge_x_volts X.\n# TYPE fuelgauge_x_volts gauge\n"
-              "fuelgauge_x_volts " +
+              "fuelgauge_x_volts{power_supply=\"\"} " +
                   each.text + "\n");
   }
 }
@@ -50,36 +50,48 @@ TEST(MetricsText, LabelsAreEscapedAndUtf8) {
   text.Family("x", "gauge", "X.");
   text.Sample(1, 0, {{"a", "q\"b\\n\nµ"}, {"b", "\xff\xc3(\t"}});
   EXPECT_TRUE(Holds(text.Text(),
-                    "\nfuelgauge_x{a=\"q\\\"b\\\\n\\\\u000aµ\",b=\"\uFFFD\uFFFD(\\\\u0009\"} 1\n"))
+                    "\nfuelgauge_x{power_supply=\"\",a=\"q\\\"b\\\\n\\\\u000aµ\",b=\"\uFFFD\uFFFD("
+                    "\\\\u0009\"} 1\n"))
       << text.Text();
 }
 
 TEST(Metrics, WhatCouldNotBeReadIsLeftOut) {
-  const std::string text = MetricsOf(ReadingsOf({{VoltageNow, 3786000}, {Present, true}}));
-  EXPECT_TRUE(Holds(text, "\nfuelgauge_voltage_volts 3.786\n"));
-  EXPECT_TRUE(Holds(text, "\nfuelgauge_present 1\n"));
+  const std::string text = MetricsOf({{"a", ReadingsOf({{VoltageNow, 3786000}, {Present, true}})},
+                                      {"b", ReadingsOf({{VoltageNow, 1}})}});
+  EXPECT_TRUE(Holds(text,
+                    "gauge\nfuelgauge_voltage_volts{power_supply=\"a\"} 3.786\n"
+                    "fuelgauge_voltage_volts{power_supply=\"b\"} 0.000001\n"));
+  EXPECT_TRUE(Holds(text, "\nfuelgauge_present{power_supply=\"a\"} 1\n"));
   for (const auto* absent : {"current", "charge", "temperature", "lifetime", "info", "health"}) {
     EXPECT_FALSE(Holds(text, std::string("fuelgauge_") + absent)) << text;
   }
-  EXPECT_TRUE(Holds(text, "fuelgauge_read_success{property=\"VoltageNow\"} 1\n"));
-  EXPECT_TRUE(Holds(text, "fuelgauge_read_success{property=\"CurrentNow\"} 0\n"));
-  EXPECT_TRUE(Holds(text, "fuelgauge_read_status{property=\"CurrentNow\"} 3\n"));
-  EXPECT_TRUE(Holds(text, "fuelgauge_read_status{property=\"Health\"} 3\n"));
+  EXPECT_TRUE(
+      Holds(text, "fuelgauge_read_success{power_supply=\"b\",property=\"VoltageNow\"} 1\n"));
+  EXPECT_TRUE(
+      Holds(text, "fuelgauge_read_success{power_supply=\"a\",property=\"CurrentNow\"} 0\n"));
+  EXPECT_TRUE(Holds(text, "power_supply=\"a\",property=\"Health\",error=\"no data\"} 1\n"));
+  EXPECT_FALSE(Holds(text, "property=\"VoltageNow\",error"));
+  EXPECT_TRUE(Holds(text, "power_supply=\"b\",rule=\"voltage-range\",severity=\"error\"} 1\n"));
 }
 
 TEST(Metrics, AStateIsOneOfItsSeriesKnownToUsOrNot) {
-  const std::string text = MetricsOf(ReadingsOf({{Status, "Full"}, {Health, "Blown fuse"}}));
-  EXPECT_TRUE(Holds(text, "fuelgauge_status{state=\"Full\"} 1\n"));
-  EXPECT_TRUE(Holds(text, "fuelgauge_status{state=\"Discharging\"} 0\n"));
-  EXPECT_TRUE(Holds(text, "fuelgauge_health{state=\"Good\"} 0\n"));
-  EXPECT_TRUE(Holds(text, "fuelgauge_health{state=\"Blown fuse\"} 1\n"));
+  const std::string text =
+      MetricsOf({{"", ReadingsOf({{Status, "Full"}, {Health, "Blown fuse"}})}});
+  EXPECT_TRUE(Holds(text, "fuelgauge_status{power_supply=\"\",state=\"Full\"} 1\n"));
+  EXPECT_TRUE(Holds(text, "fuelgauge_status{power_supply=\"\",state=\"Discharging\"} 0\n"));
+  EXPECT_TRUE(Holds(text, "fuelgauge_health{power_supply=\"\",state=\"Good\"} 0\n"));
+  EXPECT_TRUE(Holds(text, "fuelgauge_health{power_supply=\"\",state=\"Blown fuse\"} 1\n"));
 }
 
 TEST(Metrics, TheRecordIsInBaseUnits) {
-  const std::string text = MetricsOf(ReadingsOf({{LifetimeData, dral::LifetimeData()}}));
-  EXPECT_TRUE(Holds(text, "fuelgauge_lifetime_temperature_celsius{extreme=\"min\"} -20\n"));
-  EXPECT_TRUE(Holds(text, "fuelgauge_lifetime_pack_voltage_volts{extreme=\"max\"} 4.45\n"));
-  EXPECT_TRUE(Holds(text, "fuelgauge_lifetime_current_amperes{extreme=\"max_discharge\"} -1.5\n"));
+  const std::string text = MetricsOf({{"", ReadingsOf({{LifetimeData, dral::LifetimeData()}})}});
+  EXPECT_TRUE(Holds(
+      text, "fuelgauge_lifetime_temperature_celsius{power_supply=\"\",extreme=\"min\"} -20\n"));
+  EXPECT_TRUE(Holds(
+      text, "fuelgauge_lifetime_pack_voltage_volts{power_supply=\"\",extreme=\"max\"} 4.45\n"));
+  EXPECT_TRUE(Holds(
+      text,
+      "fuelgauge_lifetime_current_amperes{power_supply=\"\",extreme=\"max_discharge\"} -1.5\n"));
 }
 
 }  // namespace

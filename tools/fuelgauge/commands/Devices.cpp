@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+#include <memory>
+
+#include "commands/Commands.hpp"
+#include "output/Json.hpp"
+#include "output/Message.hpp"
+#include "output/Table.hpp"
+#include "output/Text.hpp"
+#include "readings/Supplies.hpp"
+
+namespace fuelgauge {
+namespace {
+
+using enum dral::FuelGaugeProperty;
+
+ExitStatus Devices(bool json) {
+  Json answer = Json::object();
+  for (const Supply& supply : Supplies()) {
+    if (!supply.IsBattery()) {
+      continue;
+    }
+    const Readings readings = Gauge({{supply.name}, ""}).ReadAll();
+    for (const auto id : {Name, Status, StateOfCharge}) {
+      answer[supply.name][std::string(readings[id].property->name)] = ToJson(readings[id]);
+    }
+    if (!json) {
+      PrintRow(TerminalSafe(supply.name), readings[Name].ForPeople(),
+               PadTo(14, readings[Status].ForPeople()) + readings[StateOfCharge].ForPeople());
+    }
+  }
+  if (json) {
+    Print(answer);
+  }
+  if (answer.empty()) {
+    Complain("no battery; " + SuppliesForPeople());
+    return ExitStatus::FileError;
+  }
+  return ExitStatus::Success;
+}
+
+}  // namespace
+
+Action AddDevices(CLI::App& parser) {
+  const auto json = std::make_shared<bool>();
+  parser.add_flag("--json", *json, "Answer in JSON");
+  return [json](const GaugeOptions& /*which*/) { return Devices(*json); };
+}
+
+}  // namespace fuelgauge

@@ -19,9 +19,11 @@ TEST(LogOutput, LinesAreWhatJournaldReads) {
   EXPECT_EQ(Emitted(3, "text"), "<3>lib/src/Class:Function:12: text\n");
   EXPECT_EQ(Emitted(8, "text\n\n"), "<7>lib/src/Class:Function:12: text\n");
   EXPECT_EQ(
-      Emitted(3, "25 °C 電\n<0>forged\t\x1b[2J\x7f \xc2\x9b \x9b \xc0\x9b \xe0\x80\x9b \xe2\x82"),
+      Emitted(3,
+              "25 °C 電\n<0>forged\t\x1b[2J\x7f \xc2\x9b \x9b \xc0\x9b \xe0\x80\x9b \xe2\x82"
+              " \xed\xa0\x80 \xf5\x80\x80\x80"),
       "<3>lib/src/Class:Function:12: 25 °C 電\\x0a<0>forged\\x09\\x1b[2J\\x7f \\xc2\\x9b \\x9b "
-      "\\xc0\\x9b \\xe0\\x80\\x9b \\xe2\\x82\n");
+      "\\xc0\\x9b \\xe0\\x80\\x9b \\xe2\\x82 \\xed\\xa0\\x80 \\xf5\\x80\\x80\\x80\n");
 }
 
 TEST(LogOutput, PiecesAreJoinedAndAFlushSplitsNothing) {
@@ -29,7 +31,8 @@ TEST(LogOutput, PiecesAreJoinedAndAFlushSplitsNothing) {
   LogOutput::SetSink([&text](const LogRecord& record) { text += record.text + "|"; });
   LogClient("s", "f", 1, LogLevel{3}, LogCategory{1})
       << "a" << 4200 << std::flush<char, std::char_traits<char>> << -1;
-  EXPECT_EQ(text, "a4200-1|");
+  EXPECT_EQ(Emitted(3, "last"), "") << "the sink alone gets it";
+  EXPECT_EQ(text, "a4200-1|last|");
   LogOutput::SetSink([](const LogRecord&) { throw std::runtime_error("full"); });
   EXPECT_EQ(Emitted(3, "x"), "<3>a log record was lost: out of memory, or its sink threw\n");
   LogOutput::SetSink({});

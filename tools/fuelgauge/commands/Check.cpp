@@ -136,7 +136,7 @@ Action AddCheck(CLI::App& parser) {
   parser.add_flag("--json", options->json, "Answer in JSON");
   parser
       .add_option("--severity", options->severity,
-                  "The least that ends with 1: notice, warning or error; without it warning")
+                  "Lowest severity that ends with 1: notice, warning or error; default warning")
       ->type_name("LEVEL")
       ->check(CLI::IsMember(Severities).description(""));
   AddLimit(parser, options, "--min", Bound::Minimum,

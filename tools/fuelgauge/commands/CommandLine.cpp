@@ -57,13 +57,13 @@ ExitStatus Run(int argc, char** argv) {
   app.fallthrough();             // the options below may stand behind the command as well
   app.set_version_flag("--version", "fuelgauge " KESP_VERSION);
   app.add_option("--device", which.devices,
-                 std::string("A supply's name in ") + SupplyClass + ", or its folder; without it " +
+                 std::string("A supply's name in ") + SupplyClass + ", or its folder; default " +
                      DefaultDevice)
       ->type_name("NAME|DIR")
       ->allow_extra_args(false)
       ->check(NotEmpty);
   app.add_option("--lifetime-file", which.lifetimeFile,
-                 "Fields that replace those of the lifetime record's reset value")
+                 "Override fields of the lifetime record's reset value")
       ->type_name("FILE")
       ->check(NotEmpty);
   app.add_flag("-v,--verbose", verbose, "Show the library's log on standard error");

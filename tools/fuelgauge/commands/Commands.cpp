@@ -8,10 +8,10 @@ const std::vector<Command> Commands = {
     {"get", "Print one property's bare value", AddGet},
     {"set", "Write the lifetime record, and read it back", AddSet},
     {"reset", "Write the lifetime record's reset value, and read it back", AddReset},
-    {"watch", "Show a sample again and again", AddWatch},
-    {"metrics", "Print what Prometheus reads", AddMetrics},
-    {"check", "Tell whether the gauge makes sense", AddCheck},
-    {"devices", "List the batteries that the kernel has", AddDevices},
+    {"watch", "Show samples until Ctrl-C", AddWatch},
+    {"metrics", "Print metrics for Prometheus", AddMetrics},
+    {"check", "Check whether the gauge's values make sense", AddCheck},
+    {"devices", "List the kernel's batteries", AddDevices},
 };
 
 std::string NotEmpty(const std::string& name) {

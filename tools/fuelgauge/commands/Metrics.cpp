@@ -68,10 +68,10 @@ ExitStatus Metrics(const GaugeOptions& which, const MetricsOptions& options) {
 
 Action AddMetrics(CLI::App& parser) {
   const auto options = std::make_shared<MetricsOptions>();
-  parser.add_flag("--all", options->all, "Every battery that the kernel has");
+  parser.add_flag("--all", options->all, "Every battery of the kernel");
   parser
       .add_option("--output", options->output,
-                  "Put the text in place as this file, whole; links are followed")
+                  "Write to FILE atomically instead of standard output; follows links")
       ->type_name("FILE")
       ->check(NotEmpty);
   return [options](const GaugeOptions& which) { return Metrics(which, *options); };

@@ -53,8 +53,7 @@ ExitStatus Set(const Gauge& gauge, const SetOptions& options) {
 Action AddSet(CLI::App& parser) {
   const auto options = std::make_shared<SetOptions>();
   parser.add_option("PROPERTY", options->property, "LifetimeData")->required();
-  parser
-      .add_option("VALUE", options->values, "FIELD=VALUE; other fields keep what the gauge holds")
+  parser.add_option("VALUE", options->values, "FIELD=VALUE; other fields keep their values")
       ->required();
   return [options](const GaugeOptions& which) { return Set(Gauge(which), *options); };
 }

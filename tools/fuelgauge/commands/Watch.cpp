@@ -164,15 +164,15 @@ Action AddWatch(CLI::App& parser) {
   const auto options = std::make_shared<WatchOptions>();
   parser
       .add_option("--interval", options->intervalSeconds,
-                  "Seconds between samples, 0.1 to 86400; without it 1")
+                  "Seconds between samples, 0.1 to 86400; default 1")
       ->type_name("S")
       ->check(Seconds);
-  parser.add_option("--count", options->count, "Samples to take; without it until Ctrl-C")
+  parser.add_option("--count", options->count, "Samples to take; default: until Ctrl-C")
       ->type_name("N")
       ->check(WholeNumber);
   CLI::Option* const csv =
-      parser.add_flag("--csv", options->csv, "A header, then a line of raw numbers a sample");
-  parser.add_flag("--json", options->json, "A line of JSON a sample")->excludes(csv);
+      parser.add_flag("--csv", options->csv, "A header, then one line of raw numbers per sample");
+  parser.add_flag("--json", options->json, "One line of JSON per sample")->excludes(csv);
   return [options](const GaugeOptions& which) { return Watch(Gauge(which), *options); };
 }
 

@@ -13,6 +13,7 @@
 #include <set>
 #include <thread>
 
+#include "support/LogCapture.hpp"
 #include "support/OpenFiles.hpp"
 #include "support/Outcome.hpp"
 
@@ -97,6 +98,7 @@ class Guest : public ::testing::Test {
   std::string GetRecord() const { return Get(FuelGaugeProperty::LifetimeData, LifetimeData{1}); }
   std::string Reset() const { return Describe(gauge->Reset(FuelGaugeProperty::LifetimeData)); }
 
+  const LogCapture quiet{0};
   std::unique_ptr<FuelGaugeIF> gauge =
       InterfaceFactory::Create<FuelGaugeIF, std::string_view>("Bq27542FuelGauge", "");
   const std::string standard = Bytes(LifetimeData{});  ///< what a record is before it is read

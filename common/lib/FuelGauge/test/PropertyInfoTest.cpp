@@ -10,11 +10,11 @@ const std::string Begin = "dral::PropertyInfo:    propertyName=";
 
 TEST(PropertyInfo, ReadsSixWordsAndDumpsOneLine) {
   const std::pair<std::string, std::string> cases[] = {
-      {" A\n1 0\t/x text 1 rest",
-       "A , settable=true , resettable=false , location=/x , resetValue=binaryData , "
+      {" A\n0 1\t/x text 1 rest",
+       "A , settable=false , resettable=true , location=/x , resetValue=binaryData , "
        "binary=true\n"},
-      {"A 0 1 /x text 0",
-       "A , settable=false , resettable=true , location=/x , resetValue=text , binary=false\n"},
+      {"A 1 0 /x text 0",
+       "A , settable=true , resettable=false , location=/x , resetValue=text , binary=false\n"},
       {"A yes 1 /x text 1",  // no flag: what follows keeps its value
        "A , settable=false , resettable=false , location=/old , resetValue=old , binary=false\n"},
   };

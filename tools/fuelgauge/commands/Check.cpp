@@ -140,8 +140,9 @@ Action AddCheck(CLI::App& parser) {
       ->type_name("LEVEL")
       ->check(CLI::IsMember(Severities).description(""));
   AddLimit(parser, options, "--min", Bound::Minimum,
-           "An error when it is less, in the kernel's unit, or cannot be read; repeatable");
-  AddLimit(parser, options, "--max", Bound::Maximum, "An error when it is more, likewise");
+           "Error if below NUMBER, in the kernel's unit, or unreadable; repeatable");
+  AddLimit(parser, options, "--max", Bound::Maximum,
+           "Error if above NUMBER, or unreadable; repeatable");
   return [options](const GaugeOptions& which) { return Check(Gauge(which), *options); };
 }
 

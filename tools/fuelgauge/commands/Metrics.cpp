@@ -37,7 +37,7 @@ std::vector<GaugeOptions> Gauges(const GaugeOptions& which, bool all) {
 
 ExitStatus Metrics(const GaugeOptions& which, const MetricsOptions& options) {
   if (options.all && !which.devices.empty()) {
-    throw UsageError("--all: it names every battery, and --device some");
+    throw UsageError("--all cannot be combined with --device");
   }
   std::map<std::string, Readings> supplies;
   for (const GaugeOptions& each : Gauges(which, options.all)) {

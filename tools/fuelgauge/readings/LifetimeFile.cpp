@@ -3,10 +3,12 @@
 
 #include <sys/stat.h>
 
+#include <cerrno>
 #include <fstream>
 #include <set>
 #include <string>
 
+#include "readings/Cause.hpp"
 #include "readings/LifetimeField.hpp"
 #include "readings/UsageError.hpp"
 
@@ -18,8 +20,11 @@ void CheckLifetimeFile(const std::string& path) {
   };
   // Not by std::filesystem: on a 32-bit machine it cannot see a file dated after the year 2037.
   struct stat status {};
-  if (::stat(path.c_str(), &status) != 0 || !S_ISREG(status.st_mode)) {
-    refuse("no such regular file");
+  if (::stat(path.c_str(), &status) != 0) {
+    refuse(ErrorText(errno));
+  }
+  if (!S_ISREG(status.st_mode)) {
+    refuse("it is not a regular file");
   }
   constexpr int Most = 65536;
   if (status.st_size > Most) {

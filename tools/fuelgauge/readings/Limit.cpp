@@ -25,14 +25,13 @@ Rule LimitOf(Bound bound, std::string_view text) {
     throw UsageError(name + ": '" + std::string(digits) + "' is not a whole number of 32 bits");
   }
   const bool least = bound == Bound::Minimum;
-  return {
-      least ? "minimum" : "maximum", Severity::Error,
-      name + " is to be " + ForPeople(limit, property.unit) + " or " + (least ? "more" : "less"),
-      [id = property.id, least, limit](const Readings& readings) {
-        const auto number = readings.Number(id);
-        const bool kept = number && (least ? *number >= limit : *number <= limit);
-        return kept ? Evidence{} : Evidence{{id}, {}};
-      }};
+  return {least ? "minimum" : "maximum", Severity::Error,
+          name + " must be at " + (least ? "least " : "most ") + ForPeople(limit, property.unit),
+          [id = property.id, least, limit](const Readings& readings) {
+            const auto number = readings.Number(id);
+            const bool kept = number && (least ? *number >= limit : *number <= limit);
+            return kept ? Evidence{} : Evidence{{id}, {}};
+          }};
 }
 
 }  // namespace fuelgauge

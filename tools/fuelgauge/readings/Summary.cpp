@@ -97,12 +97,12 @@ std::vector<std::string> Summary::Lines() const {
   const std::int64_t tenths = std::llround(charge / 360000);
   std::string moved = "charge moved: " + ForPeople(tenths, Unit::TenthMilliampereHour);
   if (gaps > 0) {
-    moved.append(", without ")
+    moved.append(", not counting ")
         .append(Count(gaps, "gap"))
         .append(" of ")
         .append(InWords(missed))
         .append(gaps > 1 ? " in all" : "")
-        .append(" in which the current is not known");
+        .append(" in which the current was unknown");
   }
   lines.push_back(std::move(moved));
   return lines;

@@ -13,13 +13,13 @@ TEST(Summary, GapsMoveNoCharge) {
     std::vector<std::pair<int, std::optional<int>>> samples;  // seconds, µA
     std::string moved;
   };
-  const std::string unknown = " in which the current is not known";
+  const std::string unknown = " in which the current was unknown";
   const Case cases[] = {
       {{{100, -360000}, {110, -720000}, {120, -720000}}, "-3.5 mAh"},
       {{{0, 3600000}, {10, {}}, {20, {}}, {30, 3600000}, {40, 3600000}},
-       "10.0 mAh, without 1 gap of 30 s" + unknown},
+       "10.0 mAh, not counting 1 gap of 30 s" + unknown},
       {{{0, 3600000}, {10, 3600000}, {3720, 3600000}, {3730, 3600000}, {3740, {}}},
-       "20.0 mAh, without 2 gaps of 1 h 2 min 0 s in all" + unknown},
+       "20.0 mAh, not counting 2 gaps of 1 h 2 min 0 s in all" + unknown},
   };
   for (const Case& each : cases) {
     Summary summary(Summary::Seconds(10));

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A class of one's own under a name in the factory: the code under test is only told another name.
+// A gauge of your own, registered in the factory: the code under test only gets another name.
 #include <FuelGaugeIF.hpp>
 #include <FuelGaugeNames.hpp>
 #include <IFConstructor.hpp>
@@ -27,16 +27,13 @@ class LowGauge : public FuelGaugeIF {
   }
 };
 
-// Before main, or else before any thread is there that creates a gauge.
-const bool registered = IF<FuelGaugeIF>::ifConstructors<std::string_view>
-                            .emplace("LowGauge", IFConstructor<LowGauge, std::string_view>)
-                            .second;
-
 int main() {
+  // Before any thread creates a gauge.
+  IF<FuelGaugeIF>::ifConstructors<std::string_view>.emplace(
+      "LowGauge", IFConstructor<LowGauge, std::string_view>);
   const auto gauge = InterfaceFactory::Create<FuelGaugeIF, std::string_view>("LowGauge", "");
   for (const auto property : {FuelGaugeProperty::StateOfCharge, FuelGaugeProperty::VoltageNow}) {
     const auto [status, number] = gauge->Get<int>(property);
     std::cout << NameOf(property) << " " << NameOf(status) << " " << number << "\n";
   }
-  return registered ? 0 : 1;
 }

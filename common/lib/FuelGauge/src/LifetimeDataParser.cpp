@@ -45,26 +45,26 @@ LifetimeDataParser::LifetimeDataParser(std::string_view path, const LifetimeData
   file.open(std::string(path));
   if (!file) {
     KESP_LOG("LifetimeDataParser", LogFailure) << "Failed to open file : " << path;
-  } else {
-    std::unordered_map<std::string, std::string> values;
-    for (kv_pair pair; file >> pair;) {  // of a key that comes twice, the first value counts
-      values.emplace(std::move(pair.key), std::move(pair.value));
+    lifetimeData.Validate();
+    return;
+  }
+  std::unordered_map<std::string, std::string> values;
+  for (kv_pair pair; file >> pair;) {  // of a key that comes twice, the first value counts
+    values.emplace(std::move(pair.key), std::move(pair.value));
+  }
+  file.close();
+  for (const auto& [key, value] : values) {
+    KESP_LOG("LifetimeDataParser", LogProgress) << "<key, value> In file: " << key << " " << value;
+  }
+  for (const auto& [key, set] : mapping) {
+    const auto found = values.find(key);
+    if (found == values.end()) {
+      KESP_LOG("LifetimeDataParser", LogFailure) << "Valid <key, value> Not Found: " << key;
+      continue;
     }
-    file.close();
-    for (const auto& [key, value] : values) {
-      KESP_LOG("LifetimeDataParser", LogProgress)
-          << "<key, value> In file: " << key << " " << value;
-    }
-    for (const auto& [key, set] : mapping) {
-      const auto found = values.find(key);
-      if (found == values.end()) {
-        KESP_LOG("LifetimeDataParser", LogFailure) << "Valid <key, value> Not Found: " << key;
-        continue;
-      }
-      set(found->second, lifetimeData);
-      KESP_LOG("LifetimeDataParser", LogProgress)
-          << "Valid <key, value> Found: " << key << " " << found->second;
-    }
+    set(found->second, lifetimeData);
+    KESP_LOG("LifetimeDataParser", LogProgress)
+        << "Valid <key, value> Found: " << key << " " << found->second;
   }
   lifetimeData.Validate();
 }

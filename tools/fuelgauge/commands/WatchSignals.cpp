@@ -45,9 +45,9 @@ void Handle(int signal, void (*handler)(int), unsigned flags) {
 WatchSignals::WatchSignals() {
   Handle(SIGALRM, EndNow, 0);
   ::sigemptyset(&ends);
+  ::sigemptyset(&waitedFor);
   EndOn(SIGINT);
   EndOn(SIGTERM);
-  waitedFor = ends;
   ::sigaddset(&waitedFor, SIGWINCH);
   ::sigaddset(&waitedFor, SIGCONT);
   ::sigprocmask(SIG_BLOCK, &waitedFor, nullptr);
@@ -60,6 +60,7 @@ void WatchSignals::EndOn(int signal) {
   if (action.sa_handler != SIG_IGN) {
     Handle(signal, EndSoon, SA_RESETHAND | SA_NODEFER | SA_RESTART);  // the second one kills
     ::sigaddset(&ends, signal);
+    ::sigaddset(&waitedFor, signal);
   }
 }
 

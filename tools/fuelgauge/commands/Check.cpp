@@ -2,6 +2,7 @@
 #include "readings/Check.hpp"
 
 #include <algorithm>
+#include <cerrno>
 #include <iostream>
 #include <memory>
 #include <vector>
@@ -88,7 +89,7 @@ void PrintForPeople(const std::vector<Finding>& findings, const Readings& readin
     std::cout << "normal: " << energy << "\n";
   }
   for (const Reading& reading : readings) {
-    if (energy.empty() && reading.MayBeMissing()) {
+    if (reading.MayBeMissing() && (energy.empty() || reading.cause.error != ENOENT)) {
       std::cout << "normal: " << reading.property->name << ": " << reading.Reason() << "\n";
     }
   }

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <cerrno>
 #include <iostream>
 #include <memory>
 
@@ -27,7 +28,7 @@ ExitStatus List(const Gauge& gauge, bool json) {
   } else {
     const std::string_view energy = readings.EnergyRemark();
     for (const Reading& reading : readings) {
-      if (!energy.empty() && reading.MayBeMissing()) {
+      if (!energy.empty() && reading.cause.error == ENOENT) {
         continue;
       }
       PrintRow(reading.property->name, reading.ForPeople(), Remark(reading));

@@ -8,6 +8,7 @@
 #include "commands/Commands.hpp"
 #include "output/Message.hpp"
 #include "output/OutputFile.hpp"
+#include "output/Text.hpp"
 #include "readings/Supplies.hpp"
 #include "readings/UsageError.hpp"
 
@@ -42,8 +43,9 @@ ExitStatus Metrics(const GaugeOptions& which, const MetricsOptions& options) {
   std::map<std::string, Readings> supplies;
   for (const GaugeOptions& each : Gauges(which, options.all)) {
     const Gauge gauge(each);
-    if (!supplies.emplace(gauge.SupplyName(), gauge.ReadAll()).second) {
-      throw UsageError("--device: two have the name '" + gauge.SupplyName() + "'");
+    const std::string name = TerminalSafe(gauge.SupplyName());  // as the label has it
+    if (!supplies.emplace(name, gauge.ReadAll()).second) {
+      throw UsageError("--device: two have the name '" + name + "'");
     }
   }
   const std::string text = MetricsOf(supplies);

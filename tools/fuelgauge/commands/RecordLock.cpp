@@ -39,7 +39,9 @@ std::string Holder(int file) {
     for (std::string& word : words) {
       stream >> word;
     }
-    if (words[1] == "FLOCK" && words[5] == id.str()) {
+    // A lock outlives the process that took it where another has the same open file.
+    if (words[1] == "FLOCK" && words[5] == id.str() &&
+        ::access(("/proc/" + words[4]).c_str(), F_OK) == 0) {
       return "process " + words[4];
     }
   }

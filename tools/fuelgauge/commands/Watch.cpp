@@ -148,7 +148,7 @@ ExitStatus Watch(const Gauge& gauge, const WatchOptions& options) {
       PrintSample(options, time, readings);
     }
     next = std::max(next + interval, steady_clock::now());  // a slow gauge is not hurried after
-    if (!std::cout.flush()) {
+    if (!std::cout.flush() || ReaderIsGone()) {
       return status;  // main sees to it
     }
     if (taken == options.count || !WaitUntil(next, signals, screen)) {

@@ -129,6 +129,9 @@ std::string ErrorOf(const Reading& reading) {
   if (reading.cause.error != 0) {
     return ErrorName(reading.cause.error);
   }
+  if (!reading.cause.tooLarge.empty()) {
+    return "too large";
+  }
   return reading.status == dral::FuelGaugeStatus::Failure ? "not understood" : "no data";
 }
 

@@ -139,12 +139,13 @@ class Temporary {
   }
 
  private:
-  // Root alone may give a file away, and a sandbox may forbid even the call.
+  // Root alone may give a file away, a sandbox may forbid even the call, and a user namespace may not
+  // have that owner.
   void KeepOwner(const struct stat& old) const {
     struct stat made {};
     Checked([&] { return ::fstat(file, &made); });
     const bool same = made.st_uid == old.st_uid && made.st_gid == old.st_gid;
-    if (!same && ::fchown(file, old.st_uid, old.st_gid) != 0 && errno != EPERM) {
+    if (!same && ::fchown(file, old.st_uid, old.st_gid) != 0 && errno != EPERM && errno != EINVAL) {
       Fail();
     }
   }

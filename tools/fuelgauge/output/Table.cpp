@@ -16,9 +16,9 @@ std::string PadTo(std::size_t width, std::string text) {
 }
 
 std::string Row(std::string_view name, std::string_view value, std::string_view remark) {
-  std::string row =
-      PadTo(NameColumns, std::string(name)).append(PadTo(ValueColumns, TerminalSafe(value)));
-  row.append(TerminalSafe(remark));
+  // A long name or value still ends with a blank.
+  std::string row = PadTo(NameColumns - 1, std::string(name)).append(" ");
+  row.append(PadTo(ValueColumns - 1, TerminalSafe(value))).append(" ").append(TerminalSafe(remark));
   row.erase(row.find_last_not_of(' ') + 1);
   return row;
 }

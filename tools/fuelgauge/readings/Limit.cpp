@@ -26,7 +26,7 @@ Rule LimitOf(Bound bound, std::string_view text) {
   }
   const bool least = bound == Bound::Minimum;
   return {least ? "minimum" : "maximum", Severity::Error,
-          name + " must be at " + (least ? "least " : "most ") + ForPeople(limit, property.unit),
+          name + " must be at " + (least ? "least " : "most ") + Raw(limit, property.unit),
           [id = property.id, least, limit](const Readings& readings) {
             const auto number = readings.Number(id);
             const bool kept = number && (least ? *number >= limit : *number <= limit);

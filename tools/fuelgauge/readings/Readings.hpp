@@ -31,10 +31,8 @@ class Readings {
 
   /// @return for a battery that counts energy, what to say instead of each value that is not there
   std::string_view EnergyRemark() const {
-    return countEnergy
-               ? "this battery counts energy: only its status, presence, voltage and charge "
-                 "in % are told here"
-               : "";
+    return countEnergy ? "this battery counts energy: properties that it does not have are left out"
+                       : "";
   }
 
   /// @return whether any of them could be read

@@ -103,7 +103,7 @@ const std::vector<Rule> Rules = {
      OfOurDriver(Outside(VoltageNow, 2000000, 5000000))},
     {"charge-range",
      Error,
-     "a charge is from 0 to 100 %: a register was misread",
+     "a charge is from 0 to 100 %: this one was misread",
      Outside(StateOfCharge, 0, 100),
      {"charges-disagree", "full-early", "level"}},
     {"charge-full", Error, "a battery that has a charge in % has a charge when full",

@@ -72,6 +72,7 @@ void Summary::AddCurrent(Seconds time, const Reading& reading) {
   ++samples;
   last = time;
   lastCurrent = current;
+  measured = measured || current;
 }
 
 std::string Summary::Range::Row() const {
@@ -93,6 +94,9 @@ std::vector<std::string> Summary::Lines() const {
       Count(samples, "sample").append(" in ").append(InWords(last - first))};
   for (const Range& range : ranges) {
     lines.push_back(range.Row());
+  }
+  if (!measured) {
+    return lines;
   }
   const std::int64_t tenths = std::llround(charge / 360000);
   std::string moved = "charge moved: " + ForPeople(tenths, Unit::TenthMilliampereHour);

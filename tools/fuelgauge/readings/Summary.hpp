@@ -47,7 +47,8 @@ class Summary {
   std::int64_t gaps = 0;
   bool inGap = false;
   std::optional<int> lastCurrent;
-  double charge = 0;  // µAs
+  bool measured = false;  // the current, at least once
+  double charge = 0;      // µAs
   std::vector<Range> ranges;
 };
 

@@ -14,8 +14,4 @@ const std::vector<Command> Commands = {
     {"devices", "List the kernel's batteries", AddDevices},
 };
 
-std::string NotEmpty(const std::string& name) {
-  return name.empty() ? "the name is empty" : "";
-}
-
 }  // namespace fuelgauge

@@ -27,7 +27,9 @@ struct Command {
 extern const std::vector<Command> Commands;
 
 /// Refuses an empty name, as from a script's unset variable: it must not mean the real gauge, or no file.
-std::string NotEmpty(const std::string& name);
+inline std::string NotEmpty(const std::string& name) {
+  return name.empty() ? "the name is empty" : "";
+}
 
 Action AddList(CLI::App& parser);
 Action AddGet(CLI::App& parser);

@@ -3,10 +3,19 @@
 
 #include <gtest/gtest.h>
 
-#include "Readings.hpp"
-
 namespace fuelgauge {
 namespace {
+
+Readings ReadingsOf(std::optional<int> current) {
+  std::vector<Reading> readings;
+  for (const Property& property : Properties) {
+    readings.push_back({&property, dral::FuelGaugeStatus::FileError, Hint(property.type)});
+    if (current && property.id == dral::FuelGaugeProperty::CurrentNow) {
+      readings.back() = {&property, dral::FuelGaugeStatus::Success, *current};
+    }
+  }
+  return Readings(std::move(readings));
+}
 
 TEST(Summary, GapsMoveNoCharge) {
   struct Case {
@@ -24,9 +33,7 @@ TEST(Summary, GapsMoveNoCharge) {
   for (const Case& each : cases) {
     Summary summary(Summary::Seconds(10));
     for (const auto& [time, current] : each.samples) {
-      summary.Add(
-          Summary::Seconds(time),
-          current ? ReadingsOf({{dral::FuelGaugeProperty::CurrentNow, *current}}) : ReadingsOf({}));
+      summary.Add(Summary::Seconds(time), ReadingsOf(current));
     }
     EXPECT_EQ(summary.Lines().back(), "charge moved: " + each.moved);
   }

@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+#include "output/MetricsText.hpp"
+
+#include <gtest/gtest.h>
+
+namespace fuelgauge {
+namespace {
+
+TEST(MetricsText, NumbersAreExact) {
+  struct Case {
+    std::int64_t number;
+    int decimals;
+    std::string text;
+  };
+  const Case cases[] = {
+      {3786000, 6, "3.786"},
+      {-412000, 6, "-0.412"},
+      {1, 6, "0.000001"},
+      {0, 6, "0"},
+      {-5, 1, "-0.5"},
+      {100, 2, "1"},
+      {65535, 2, "655.35"},
+      {4000000, 6, "4"},
+      {2147483647LL * 36, 4, "7730941.1292"},
+      {-2147483648LL * 36, 4, "-7730941.1328"},
+      {120, 0, "120"},
+  };
+  for (const Case& each : cases) {
+    MetricsText text;
+    text.Family("x_volts", "gauge", "X.");
+    text.Sample(each.number, each.decimals);
+    EXPECT_EQ(text.Text(),
+              "# HELP fuelgauge_x_volts X.\n# TYPE fuelgauge_x_volts gauge\n"
+              "fuelgauge_x_volts{power_supply=\"\"} " +
+                  each.text + "\n");
+  }
+}
+
+TEST(MetricsText, LabelsAreEscapedAndUtf8) {
+  MetricsText text;
+  text.Family("x", "gauge", "X.");
+  text.Sample(1, 0, {{"a", "q\"b\\n\nµ"}, {"b", "\xff\xc3(\t"}});
+  EXPECT_EQ(text.Text(),
+            "# HELP fuelgauge_x X.\n# TYPE fuelgauge_x gauge\n"
+            "fuelgauge_x{power_supply=\"\",a=\"q\\\"b\\\\n\\\\u000aµ\",b=\"\uFFFD\uFFFD("
+            "\\\\u0009\"} 1\n");
+}
+
+}  // namespace
+}  // namespace fuelgauge

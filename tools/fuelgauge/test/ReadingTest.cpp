@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#include "readings/Reading.hpp"
+
+#include <gtest/gtest.h>
+
+#include <cerrno>
+
+using enum dral::FuelGaugeProperty;
+
+namespace fuelgauge {
+namespace {
+
+// Errors that only a kernel's driver answers.
+TEST(Reading, SaysWhyAValueIsMissingAndWhetherThatIsNormal) {
+  struct Case {
+    dral::FuelGaugeProperty property;
+    int error;
+    bool otherDriver;
+    bool normal;
+    std::string reason;
+  };
+  const Case cases[] = {
+      {TimeToEmpty, ENODATA, false, true,
+       "no estimate: the battery is not discharging, or its current is too small (ENODATA)"},
+      {CycleCount, ENODATA, false, false, "the gauge has no value now (ENODATA)"},
+      {CycleCount, ENODATA, true, true, "the gauge has no value now (ENODATA)"},
+      {Status, ENODEV, false, false, "the gauge has gone, or does not answer (ENODEV)"},
+      {Status, ENODEV, true, true, "its driver has no value now (ENODEV)"},
+      {Status, EACCES, true, false, "no permission to read it (EACCES)"},
+      {Status, ETIMEDOUT, false, false, "the gauge does not answer on its bus (ETIMEDOUT)"},
+  };
+  for (const auto& [id, error, otherDriver, normal, reason] : cases) {
+    Reading reading{&Properties.at(static_cast<std::size_t>(id)), dral::FuelGaugeStatus::NoData, 0};
+    reading.cause.error = error;
+    reading.otherDriver = otherDriver;
+    EXPECT_EQ(reading.MayBeMissing(), normal) << reason;
+    EXPECT_EQ(reading.Reason(), reason);
+  }
+}
+
+}  // namespace
+}  // namespace fuelgauge

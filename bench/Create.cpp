@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <Bq27542FuelGauge.hpp>
 #include <memory>
-#include <string>
 #include <string_view>
 
 #include "Benchmarks.hpp"

@@ -8,10 +8,10 @@
 #include <cstddef>
 #include <cstdio>
 #include <cstdlib>
-#include <memory>
 #include <new>
 #include <string>
 #include <string_view>
+#include <utility>
 
 using namespace dral;
 

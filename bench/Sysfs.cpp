@@ -2,6 +2,7 @@
 #include <Bq27542FuelGauge.hpp>
 #include <memory>
 #include <string>
+#include <utility>
 
 #include "Bare.hpp"
 #include "Benchmarks.hpp"

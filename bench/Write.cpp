@@ -5,6 +5,7 @@
 #include <memory>
 #include <sstream>
 #include <string>
+#include <utility>
 
 #include "Bare.hpp"
 #include "Benchmarks.hpp"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The benchmarks; scripts/bench runs them and prints what matters.
 #include <filesystem>
+#include <string>
 
 #include "Benchmarks.hpp"
 #include "support/TemporaryFolder.hpp"

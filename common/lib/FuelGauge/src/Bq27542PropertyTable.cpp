@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include <memory>
 #include <string>
+#include <string_view>
 
 #include "Bq27542FuelGauge.hpp"
 

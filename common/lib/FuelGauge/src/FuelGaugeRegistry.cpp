@@ -1,5 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Bq27542FuelGauge.hpp"
+
+#include <memory>
+#include <string_view>
 #include "FuelGaugeIF.hpp"
 #include "IFConstructor.hpp"
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "LifetimeDataParser.hpp"
 
+#include <cstdint>
 #include <fstream>
 #include <istream>
 #include <locale>

@@ -4,6 +4,7 @@
 #include <istream>
 #include <ostream>
 #include <string_view>
+#include <variant>
 
 namespace dral {
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <fcntl.h>
+
 #include <cstring>
 #include <string>
 #include <utility>

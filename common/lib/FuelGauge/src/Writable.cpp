@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Writable.hpp"
 
+#include <fcntl.h>
+
 #include <Path.hpp>
 #include <concepts>
 #include <cstdint>
@@ -10,6 +12,7 @@
 #include <string>
 #include <string_view>
 #include <utility>
+#include <variant>
 
 #include "File.hpp"
 #include "LifetimeDataBytes.hpp"

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <cstdint>
-#include <locale>
 #include <sstream>
 #include <string_view>
 

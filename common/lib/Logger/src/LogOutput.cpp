@@ -7,8 +7,11 @@
 #include <atomic>
 #include <cerrno>
 #include <charconv>
+#include <cstdint>
 #include <cstdlib>
+#include <locale>
 #include <mutex>
+#include <system_error>
 #include <utility>
 
 #include "Visible.hpp"

@@ -15,16 +15,13 @@ using enum dral::FuelGaugeProperty;
 
 ExitStatus Devices(bool json) {
   Json answer = Json::object();
-  for (const Supply& supply : Supplies()) {
-    if (!supply.IsBattery()) {
-      continue;
-    }
-    const Readings readings = Gauge({{supply.name}, ""}).ReadAll();
+  for (const std::string& name : Batteries()) {
+    const Readings readings = Gauge({{name}, ""}).ReadAll();
     for (const auto id : {Name, Status, StateOfCharge}) {
-      answer[supply.name][std::string(readings[id].property->name)] = ToJson(readings[id]);
+      answer[name][std::string(readings[id].property->name)] = ToJson(readings[id]);
     }
     if (!json) {
-      PrintRow(TerminalSafe(supply.name), readings[Name].ForPeople(),
+      PrintRow(TerminalSafe(name), readings[Name].ForPeople(),
                PadTo(14, readings[Status].ForPeople()) + readings[StateOfCharge].ForPeople());
     }
   }

@@ -2,6 +2,7 @@
 #include "output/Metrics.hpp"
 
 #include <iostream>
+#include <map>
 #include <memory>
 #include <optional>
 
@@ -21,17 +22,12 @@ struct MetricsOptions {
 };
 
 std::vector<GaugeOptions> Gauges(const GaugeOptions& which, bool all) {
-  std::vector<GaugeOptions> gauges;
   if (!all && which.devices.empty()) {
-    gauges.push_back(which);
+    return {which};
   }
-  for (const std::string& device : which.devices) {
+  std::vector<GaugeOptions> gauges;
+  for (const std::string& device : all ? Batteries() : which.devices) {
     gauges.push_back({{device}, which.lifetimeFile});
-  }
-  for (const Supply& supply : all ? Supplies() : std::vector<Supply>()) {
-    if (supply.IsBattery()) {
-      gauges.push_back({{supply.name}, which.lifetimeFile});
-    }
   }
   return gauges;
 }

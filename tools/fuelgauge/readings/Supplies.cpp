@@ -15,12 +15,16 @@
 namespace fuelgauge {
 namespace {
 
+struct Supply {
+  std::string name;
+  std::string type;  // such as "Battery", "Mains" or "USB"
+};
+
 bool Exists(const std::string& path) {
   return ::access(path.c_str(), F_OK) == 0;
 }
 
-}  // namespace
-
+// Those that are there now, in the order of their names.
 std::vector<Supply> Supplies() {
   glob_t folders{};
   const std::unique_ptr<glob_t, void (*)(glob_t*)> guard(&folders, ::globfree);
@@ -32,6 +36,18 @@ std::vector<Supply> Supplies() {
     supplies.push_back({SupplyName(folder), type.substr(0, type.find('\n'))});
   }
   return supplies;
+}
+
+}  // namespace
+
+std::vector<std::string> Batteries() {
+  std::vector<std::string> names;
+  for (const auto& [name, type] : Supplies()) {
+    if (type == "Battery") {
+      names.push_back(name);
+    }
+  }
+  return names;
 }
 
 std::string SuppliesForPeople() {

@@ -9,16 +9,8 @@ namespace fuelgauge {
 /// Where the kernel has its batteries and chargers.
 constexpr auto SupplyClass = "/sys/class/power_supply";
 
-/// One of them.
-struct Supply {
-  std::string name;
-  std::string type;  ///< such as "Battery", "Mains" or "USB"
-
-  bool IsBattery() const { return type == "Battery"; }
-};
-
-/// @return those that are there now, in the order of their names
-std::vector<Supply> Supplies();
+/// @return the names of the batteries that are there now, in their order
+std::vector<std::string> Batteries();
 
 /// @return what there is, for a message: "the supplies are AC (Mains), BAT0 (Battery)"
 std::string SuppliesForPeople();

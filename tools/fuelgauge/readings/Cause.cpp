@@ -10,7 +10,6 @@
 #include <cerrno>
 #include <cstring>
 #include <string_view>
-#include <utility>
 
 namespace fuelgauge {
 namespace {
@@ -39,9 +38,6 @@ constexpr std::array Errors = {
     ErrorInfo{ENODEV, "ENODEV", "the gauge has gone, or does not answer"},
 };
 
-// Far more than any attribute has.
-constexpr std::size_t Most = 65536;
-
 std::string TooLarge(const std::string& path, const std::string& size) {
   return "'" + path + "' has " + size + " bytes, which no attribute has";
 }
@@ -66,8 +62,7 @@ auto Uninterrupted(Call call) {
 Cause Cause::OfSize(const std::string& path) {
   Cause cause;
   struct stat status {};
-  if (::stat(path.c_str(), &status) == 0 && S_ISREG(status.st_mode) &&
-      std::cmp_greater(status.st_size, Most)) {
+  if (::stat(path.c_str(), &status) == 0 && S_ISREG(status.st_mode) && status.st_size > MostBytes) {
     cause.tooLarge = TooLarge(path, std::to_string(status.st_size));
   }
   return cause;
@@ -87,10 +82,10 @@ Cause Cause::Of(const std::string& path) {
     count = Uninterrupted([&] { return ::read(file, page.data(), page.size()); });
     cause.error = count < 0 ? errno : 0;
     cause.text.append(page.data(), static_cast<std::size_t>(std::max<ssize_t>(count, 0)));
-  } while (count > 0 && cause.text.size() <= Most);
+  } while (count > 0 && cause.text.size() <= MostBytes);
   ::close(file);
-  if (cause.text.size() > Most) {
-    cause.tooLarge = TooLarge(path, "more than " + std::to_string(Most));
+  if (cause.text.size() > MostBytes) {
+    cause.tooLarge = TooLarge(path, "more than " + std::to_string(MostBytes));
   }
   if (cause.error != 0 || !cause.tooLarge.empty()) {
     cause.text.clear();

@@ -6,6 +6,9 @@
 
 namespace fuelgauge {
 
+/// The most bytes that a file may have: far more than any attribute or override file has.
+constexpr int MostBytes = 65536;
+
 /// Why a value is missing: what the system answers for its file.
 struct Cause {
   bool opened = false;

@@ -26,10 +26,9 @@ void CheckLifetimeFile(const std::string& path) {
   if (!S_ISREG(status.st_mode)) {
     refuse("it is not a regular file");
   }
-  constexpr int Most = 65536;
-  if (status.st_size > Most) {
+  if (status.st_size > MostBytes) {
     refuse("it has " + std::to_string(status.st_size) + " bytes, more than " +
-           std::to_string(Most));
+           std::to_string(MostBytes));
   }
   std::ifstream file(path);
   if (!file) {

@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
+#include <string_view>
+#include <vector>
 
 #include "output/MetricsText.hpp"
 #include "readings/Check.hpp"
@@ -11,67 +13,65 @@
 
 namespace fuelgauge {
 
-using dral::FuelGaugeProperty;
+using enum dral::FuelGaugeProperty;
 using Labels = MetricsText::Labels;
 
 namespace {
 
 // A number in the base unit: times `factor`, divided by ten to the `decimals`.
 struct NumberMetric {
-  FuelGaugeProperty property;
+  dral::FuelGaugeProperty property;
   std::string_view name;
-  std::string_view type;
   std::string_view help;
-  int factor;
   int decimals;
+  int factor = 1;
 };
 
 // Charges are in coulombs: the convention asks for base units, and finds fault with hours in a name.
 // Cycles only grow, until the gauge is replaced: a counter, whose reset Prometheus understands.
-constexpr std::array<NumberMetric, 10> NumberMetrics = {{
-    {FuelGaugeProperty::Present, "present", "gauge", "Whether a battery is present.", 1, 0},
-    {FuelGaugeProperty::VoltageNow, "voltage_volts", "gauge", "Battery voltage.", 1, 6},
-    {FuelGaugeProperty::CurrentNow, "current_amperes", "gauge",
-     "Battery current with the kernel's sign: negative while discharging.", 1, 6},
-    {FuelGaugeProperty::StateOfCharge, "charge_ratio", "gauge", "Remaining charge, 0 to 1.", 1, 2},
-    {FuelGaugeProperty::Temperature, "temperature_celsius", "gauge", "Battery temperature.", 1, 1},
-    {FuelGaugeProperty::NominalAvailableCapacity, "charge_available_coulombs", "gauge",
-     "Charge now available, not compensated for load and temperature.", 36, 4},
-    {FuelGaugeProperty::FullChargeCapacity, "charge_full_coulombs", "gauge",
-     "Charge when full, compensated for load and temperature.", 36, 4},
-    {FuelGaugeProperty::CycleCount, "cycles_total", "counter", "Charge cycles so far.", 1, 0},
-    {FuelGaugeProperty::PowerAverage, "power_average_watts", "gauge", "Average power.", 1, 6},
-    {FuelGaugeProperty::TimeToEmpty, "time_to_empty_seconds", "gauge",
-     "Time until empty; none unless discharging.", 1, 0},
-}};
+constexpr auto NumberMetrics = std::to_array<NumberMetric>({
+    {Present, "present", "Whether a battery is present.", 0},
+    {VoltageNow, "voltage_volts", "Battery voltage.", 6},
+    {CurrentNow, "current_amperes",
+     "Battery current with the kernel's sign: negative while discharging.", 6},
+    {StateOfCharge, "charge_ratio", "Remaining charge, 0 to 1.", 2},
+    {Temperature, "temperature_celsius", "Battery temperature.", 1},
+    {NominalAvailableCapacity, "charge_available_coulombs",
+     "Charge now available, not compensated for load and temperature.", 4, 36},
+    {FullChargeCapacity, "charge_full_coulombs",
+     "Charge when full, compensated for load and temperature.", 4, 36},
+    {CycleCount, "cycles_total", "Charge cycles so far.", 0},
+    {PowerAverage, "power_average_watts", "Average power.", 6},
+    {TimeToEmpty, "time_to_empty_seconds", "Time until empty; none unless discharging.", 0},
+});
 
 struct StateMetric {
-  FuelGaugeProperty property;
+  dral::FuelGaugeProperty property;
   std::string_view name;
   std::string_view help;
   std::vector<std::string> states;
 };
 
-// The kernel's words; another one that is read gets a series too.
-const std::array<StateMetric, 3> StateMetrics = {{
-    {FuelGaugeProperty::Status,
+// The states that always have a series; another word that is read gets one too.
+const std::vector<StateMetric> StateMetrics = {
+    {Status,
      "status",
      "Charging status: 1 for the state that is.",
      {StatusWords.begin(), StatusWords.end()}},
-    {FuelGaugeProperty::ChargeLevel,
+    {ChargeLevel,
      "charge_level",
      "Charge level: 1 for the level that is.",
      {LevelWords.begin(), LevelWords.end()}},
-    {FuelGaugeProperty::Health,
+    {Health,
      "health",
      "Battery health: 1 for the state that is.",
      {"Unknown", "Good", "Overheat", "Dead", "Over voltage", "Cold", "Calibration required"}},
-}};
+};
 
 void AddNumbers(MetricsText& text, const Readings& readings) {
   for (const NumberMetric& metric : NumberMetrics) {
     if (const auto number = readings.Number(metric.property)) {
-      text.Family(metric.name, metric.type, metric.help);
+      text.Family(metric.name, metric.help);
       text.Sample(std::int64_t{*number} * metric.factor, metric.decimals);
     }
   }
@@ -87,7 +87,7 @@ void AddStates(MetricsText& text, const Readings& readings) {
     if (std::find(states.begin(), states.end(), *now) == states.end()) {
       states.emplace_back(*now);
     }
-    text.Family(metric.name, "gauge", metric.help);
+    text.Family(metric.name, metric.help);
     for (const std::string& state : states) {
       text.Sample(state == *now ? 1 : 0, 0, {{"state", state}});
     }
@@ -99,27 +99,27 @@ void AddRecord(MetricsText& text, const Readings& readings) {
   if (record == nullptr) {
     return;
   }
-  text.Family("lifetime_temperature_celsius", "gauge", "Extremes of the pack's temperature.");
+  text.Family("lifetime_temperature_celsius", "Extremes of the pack's temperature.");
   text.Sample(record->maxTemp, 1, {{"extreme", "max"}});
   text.Sample(record->minTemp, 1, {{"extreme", "min"}});
-  text.Family("lifetime_pack_voltage_volts", "gauge", "Extremes of the pack's voltage.");
+  text.Family("lifetime_pack_voltage_volts", "Extremes of the pack's voltage.");
   text.Sample(record->maxPackVoltage, 3, {{"extreme", "max"}});
   text.Sample(record->minPackVoltage, 3, {{"extreme", "min"}});
-  text.Family("lifetime_current_amperes", "gauge", "Extremes of the pack's current.");
+  text.Family("lifetime_current_amperes", "Extremes of the pack's current.");
   text.Sample(record->maxChargeCurrent, 3, {{"extreme", "max_charge"}});
   text.Sample(record->maxDischargeCurrent, 3, {{"extreme", "max_discharge"}});
 }
 
 void AddInfo(MetricsText& text, const Readings& readings) {
   Labels labels;
-  if (const auto manufacturer = readings.Text(FuelGaugeProperty::Name)) {
+  if (const auto manufacturer = readings.Text(Name)) {
     labels.emplace_back("manufacturer", *manufacturer);
   }
-  if (const auto technology = readings.Text(FuelGaugeProperty::Technology)) {
+  if (const auto technology = readings.Text(Technology)) {
     labels.emplace_back("technology", *technology);
   }
   if (!labels.empty()) {
-    text.Family("info", "gauge", "What the gauge says of itself.");
+    text.Family("info", "What the gauge says of itself.");
     text.Sample(1, 0, labels);
   }
 }
@@ -136,14 +136,14 @@ std::string ErrorOf(const Reading& reading) {
 }
 
 void AddReads(MetricsText& text, const Readings& readings) {
-  text.Family("read_success", "gauge", "Whether the property could be read.");
+  text.Family("read_success", "Whether the property could be read.");
   for (const Reading& reading : readings) {
     text.Sample(reading.Succeeded() ? 1 : 0, 0,
                 {{"property", std::string(reading.property->name)}});
   }
   for (const Reading& reading : readings) {
     if (!reading.Succeeded()) {
-      text.Family("read_error", "gauge", "Why the property could not be read.");
+      text.Family("read_error", "Why the property could not be read.");
       text.Sample(1, 0,
                   {{"property", std::string(reading.property->name)}, {"error", ErrorOf(reading)}});
     }
@@ -152,7 +152,7 @@ void AddReads(MetricsText& text, const Readings& readings) {
 
 void AddFindings(MetricsText& text, const Readings& readings) {
   for (const Finding& finding : Check(readings)) {
-    text.Family("check_finding", "gauge", "A rule that the readings break.");
+    text.Family("check_finding", "A rule that the readings break.");
     text.Sample(
         1, 0,
         {{"rule", std::string(finding.rule->name)}, {"severity", NameOf(finding.rule->severity)}});

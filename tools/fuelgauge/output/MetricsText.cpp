@@ -38,7 +38,7 @@ std::string Decimal(std::int64_t number, int decimals) {
 
 }  // namespace
 
-void MetricsText::Family(std::string_view name, std::string_view type, std::string_view help) {
+void MetricsText::Family(std::string_view name, std::string_view help) {
   const std::string full = "fuelgauge_" + std::string(name);
   const auto found = std::find_if(families.begin(), families.end(),
                                   [&full](const Block& each) { return each.name == full; });
@@ -49,7 +49,8 @@ void MetricsText::Family(std::string_view name, std::string_view type, std::stri
   family = &families.emplace_back();
   family->name = full;
   family->text.append("# HELP ").append(full).append(" ").append(help).append("\n");
-  family->text.append("# TYPE ").append(full).append(" ").append(type).append("\n");
+  family->text.append("# TYPE ").append(full).append(" ");
+  family->text.append(name.ends_with("_total") ? "counter" : "gauge").append("\n");
 }
 
 void MetricsText::Sample(std::int64_t number, int decimals, const Labels& labels) {

@@ -18,11 +18,12 @@ class MetricsText {
   /// The samples from now on are those of the supply of this @p name.
   void Supply(std::string name) { supply = std::move(name); }
 
-  /// Begins a family, "fuelgauge_" and @p name, or goes on with it; @p type is "gauge" or "counter".
-  void Family(std::string_view name, std::string_view type, std::string_view help);
+  /// Begins a family, "fuelgauge_" and @p name, or goes on with it. By its name's end, "_total", one is a
+  /// counter; the others are gauges.
+  void Family(std::string_view name, std::string_view help);
 
   /// Adds a sample to the family: @p number divided by ten to the @p decimals, exactly.
-  void Sample(std::int64_t number, int decimals = 0, const Labels& labels = {});
+  void Sample(std::int64_t number, int decimals, const Labels& labels = {});
 
   std::string Text() const;
 

@@ -27,7 +27,7 @@ TEST(MetricsText, NumbersAreExact) {
   };
   for (const Case& each : cases) {
     MetricsText text;
-    text.Family("x_volts", "gauge", "X.");
+    text.Family("x_volts", "X.");
     text.Sample(each.number, each.decimals);
     EXPECT_EQ(text.Text(),
               "# HELP fuelgauge_x_volts X.\n# TYPE fuelgauge_x_volts gauge\n"
@@ -38,7 +38,7 @@ TEST(MetricsText, NumbersAreExact) {
 
 TEST(MetricsText, LabelsAreEscapedAndUtf8) {
   MetricsText text;
-  text.Family("x", "gauge", "X.");
+  text.Family("x", "X.");
   text.Sample(1, 0, {{"a", "q\"b\\n\nµ"}, {"b", "\xff\xc3(\t"}});
   EXPECT_EQ(text.Text(),
             "# HELP fuelgauge_x X.\n# TYPE fuelgauge_x gauge\n"

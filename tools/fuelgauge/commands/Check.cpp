@@ -5,6 +5,7 @@
 #include <cerrno>
 #include <iostream>
 #include <memory>
+#include <string_view>
 #include <vector>
 
 #include "commands/Commands.hpp"

@@ -2,6 +2,7 @@
 #include <iostream>
 #include <map>
 #include <memory>
+#include <variant>
 
 #include "commands/Commands.hpp"
 #include "output/Json.hpp"

@@ -2,6 +2,7 @@
 #include <cerrno>
 #include <iostream>
 #include <memory>
+#include <string_view>
 
 #include "commands/Commands.hpp"
 #include "output/Json.hpp"

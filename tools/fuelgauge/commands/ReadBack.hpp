@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <string_view>
+
 #include "commands/ExitStatus.hpp"
 #include "readings/Gauge.hpp"
 

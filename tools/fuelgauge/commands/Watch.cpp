@@ -1,15 +1,19 @@
 // SPDX-License-Identifier: MIT
 #include <unistd.h>
 
+#include <algorithm>
 #include <charconv>
 #include <chrono>
 #include <csignal>
+#include <cstdint>
 #include <cstdlib>
 #include <iostream>
 #include <locale>
 #include <memory>
 #include <optional>
 #include <sstream>
+#include <string_view>
+#include <system_error>
 
 #include "commands/Commands.hpp"
 #include "commands/Presence.hpp"

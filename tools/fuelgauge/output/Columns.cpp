@@ -2,7 +2,6 @@
 #include "output/Columns.hpp"
 
 #include <algorithm>
-#include <string>
 
 namespace fuelgauge {
 namespace {

@@ -2,6 +2,7 @@
 #include "output/Csv.hpp"
 
 #include <iostream>
+#include <variant>
 
 #include "output/Text.hpp"
 

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 #include <iostream>
 #include <limits>
 #include <utility>
@@ -60,6 +61,20 @@ std::pair<std::int64_t, std::int64_t> RangeOf(const Course& numbers) {
   return {least, greatest};
 }
 
+// The newest, at most so many, behind their limits.
+std::string SparklineWithLimits(Course numbers, Unit unit, std::size_t most) {
+  while (numbers.size() > most) {
+    numbers.pop_front();
+  }
+  const auto [least, greatest] = RangeOf(numbers);
+  if (least > greatest) {
+    return "";
+  }
+  const std::string from = ForPeople(least, unit);
+  const std::string limits = from.substr(0, from.find(' ')) + "…" + ForPeople(greatest, unit);
+  return PadTo(LimitsColumns, limits).append(Sparkline(numbers));
+}
+
 }  // namespace
 
 std::string Bar(int percent, int width) {
@@ -80,24 +95,6 @@ std::string Sparkline(const Course& numbers) {
   }
   return line;
 }
-
-namespace {
-
-// The newest, at most so many, behind their limits.
-std::string SparklineWithLimits(Course numbers, Unit unit, std::size_t most) {
-  while (numbers.size() > most) {
-    numbers.pop_front();
-  }
-  const auto [least, greatest] = RangeOf(numbers);
-  if (least > greatest) {
-    return "";
-  }
-  const std::string from = ForPeople(least, unit);
-  const std::string limits = from.substr(0, from.find(' ')) + "…" + ForPeople(greatest, unit);
-  return PadTo(LimitsColumns, limits).append(Sparkline(numbers));
-}
-
-}  // namespace
 
 std::vector<Screen::Line> Screen::Table(const std::string& time, const Readings& readings) const {
   const std::string heading = "fuelgauge watch, " + time;

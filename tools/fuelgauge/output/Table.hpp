@@ -2,6 +2,7 @@
 #pragma once
 
 #include <LifetimeData.hpp>
+#include <cstddef>
 #include <string>
 #include <string_view>
 

@@ -2,8 +2,10 @@
 #include "readings/Conditions.hpp"
 
 #include <algorithm>
-#include <cmath>
+#include <cstdlib>
 #include <initializer_list>
+#include <iterator>
+#include <string_view>
 
 #include "readings/Words.hpp"
 

@@ -4,6 +4,8 @@
 #include <unistd.h>
 
 #include <Bq27542FuelGauge.hpp>
+#include <string_view>
+#include <tuple>
 #include <utility>
 
 #include "readings/LifetimeFile.hpp"

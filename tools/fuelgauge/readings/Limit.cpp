@@ -3,6 +3,7 @@
 
 #include <charconv>
 #include <string>
+#include <system_error>
 
 #include "readings/UsageError.hpp"
 

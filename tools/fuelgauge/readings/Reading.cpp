@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <charconv>
+#include <system_error>
 #include <variant>
 
 namespace fuelgauge {

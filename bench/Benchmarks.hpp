@@ -9,7 +9,7 @@
 /// Each adds benchmarks under names of three parts, PLACE/WHO/WHAT, such as `tmpfs/Get/int`: those that
 /// differ in WHO alone do the same work. What is done by `Floor` is the bare system calls.
 
-/// @p folder holds a gauge's sixteen files, and outlives the run.
+/// @p folder holds a gauge's files, and outlives the run.
 void AddReads(const std::string& folder);
 void AddWrites(const std::string& folder);
 void AddCreate();

@@ -12,7 +12,7 @@ void AddCreate() {
   // floor is one copy of the map.
   const std::shared_ptr<PropertyMap> map =
       Bq27542FuelGauge::PropertyMapAt("/sys/class/power_supply/bq27542-0");
-  Add("memory/Floor/gauge", [map] { return PropertyMap(*map).size() == 16; });
+  Add("memory/Floor/gauge", [map] { return !PropertyMap(*map).empty(); });
   Add("memory/Create/gauge", [] {
     return InterfaceFactory::Create<FuelGaugeIF, std::string_view>("DefaultIF", "") != nullptr;
   });

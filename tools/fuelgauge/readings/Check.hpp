@@ -9,7 +9,7 @@ namespace fuelgauge {
 
 /// A rule that is broken.
 struct Finding {
-  const Rule* rule = nullptr;
+  const Rule* rule;
   Evidence evidence;
 };
 

@@ -35,7 +35,7 @@ class Gauge {
   Reading Read(const Property& property) const { return Read(property, property.type); }
   Reading Read(const Property& property, Type type) const;
 
-  /// Reads the sixteen properties that have a file.
+  /// Reads the properties that have a file.
   Readings ReadAll() const;
 
   /// @return the path of the property's file; empty when it has none

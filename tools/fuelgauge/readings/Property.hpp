@@ -25,7 +25,7 @@ struct Property {
   std::string_view name = dral::NameOf(id);
 };
 
-/// All of them in the order of their numbers; the last, the reset value, has no file.
+/// All of them in the order of their numbers; the reset value alone has no file.
 inline constexpr auto Properties = std::to_array<Property>({
     {dral::FuelGaugeProperty::Name, Type::String, Unit::None, true},
     {dral::FuelGaugeProperty::Technology, Type::String, Unit::None, false},

@@ -10,8 +10,8 @@
 
 namespace fuelgauge {
 
-/// The sixteen properties that have a file, as they were read one after the other, in the order of
-/// their numbers.
+/// The properties that have a file, as they were read one after the other, in the order of their
+/// numbers.
 class Readings {
  public:
   explicit Readings(std::vector<Reading> all, bool countEnergy = false)

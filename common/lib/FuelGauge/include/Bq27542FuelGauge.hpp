@@ -44,7 +44,7 @@ class KESP_EXPORT Bq27542FuelGauge : public FuelGaugeIF {
   static const PropertyInfo
       LifetimeDataPropertyInfo;  ///< lifetime_data; settable, reset to the default record
 
-  /// @return the sixteen properties with their files in @p directory instead, for the constructor
+  /// @return the same properties with their files in @p directory instead, for the constructor
   static std::unique_ptr<PropertyMap> PropertyMapAt(std::string_view directory);
 
   /// @param lifetimeResetPath a lifetime override file (see `LifetimeDataParser`); empty for none

@@ -4,10 +4,11 @@
 #include <unistd.h>
 #include <Path.hpp>
 #include <cstdio>
+#include <memory>
+#include <string>
+#include <string_view>
 
-namespace {
-
-bool Exists(std::string_view path) {
+static bool Exists(std::string_view path) {
   return dral::Path(path, nullptr).Exists();
 }
 
@@ -15,9 +16,7 @@ TEST(Path, ExistsAsStatSeesIt) {
   EXPECT_TRUE(Exists("/dev/null"));
   EXPECT_FALSE(Exists("/dev/null/x"));
   EXPECT_FALSE(Exists(""));
-}
-
-TEST(Path, AFileWhoseTimeOrSizeTakesMoreThan32BitsExists) {
+  // What takes more than 32 bits: a time, and a size.
   std::FILE* const file = std::tmpfile();
   ASSERT_NE(file, nullptr);
   const int descriptor = ::fileno(file);
@@ -38,5 +37,3 @@ TEST(Path, AsksTheLinuxApiThatItWasGiven) {
   EXPECT_TRUE(dral::Path("/there", std::make_unique<Answer>()).Exists());
   EXPECT_FALSE(dral::Path("/dev/null", std::make_unique<Answer>()).Exists());
 }
-
-}  // namespace

@@ -9,12 +9,14 @@
 #include <future>
 #include <locale>
 #include <sstream>
+#include <stdexcept>
+#include <string>
+#include <variant>
+#include <vector>
 
 #include "support/FolderGauge.hpp"
 
 using namespace dral;
-
-namespace {
 
 constexpr auto Soon = std::chrono::seconds(20);  // for what would else never come
 constexpr auto ResetValue = FuelGaugeProperty::LifetimeDataResetValue;
@@ -61,11 +63,12 @@ TEST_F(Bq27542FuelGaugeTest, AnswersTheResetValueOfItsMapAndTheOverrideFile) {
 
 TEST_F(Bq27542FuelGaugeTest, TurnsExceptionsIntoLoggedFailures) {
   const FuelGaugeProperty unknown{17};
-  Bq27542FuelGauge noFile("", MapOf(unknown, {}));
+  Bq27542FuelGauge noFile("", MapOf(unknown, {.settable = true}));
   EXPECT_EQ(Describe(gauge.Get(unknown, "abc")), "2 string abc");
   EXPECT_EQ(Describe(gauge.Set(ResetValue, 1)), "2");
   EXPECT_EQ(Describe(gauge.Reset(unknown)), "2");
   EXPECT_EQ(Describe(noFile.Get(unknown, LifetimeData{})), "2 record " + Bytes({}));
+  EXPECT_EQ(Describe(noFile.Set(unknown, 1)), "3");
   EXPECT_EQ(log.Take(),
             "3 Readable Get: Readable Missing FuelGaugeProperty definition: 17\n"
             "3 Bq27542FuelGauge DoGet: Failed to get property: 17ex: Readable Missing "
@@ -78,7 +81,8 @@ TEST_F(Bq27542FuelGaugeTest, TurnsExceptionsIntoLoggedFailures) {
             "FuelGaugeProperty definition\n"
             "3 Readable Get: FuelGaugeProperty:17not resettable, filepath empty\n"
             "3 Bq27542FuelGauge DoGet: Failed to get property: 17ex: Readable Missing "
-            "FuelGaugeProperty filepath\n");
+            "FuelGaugeProperty filepath\n"
+            "3 Writable WriteData: Writable::Set failed - file not found: \n");
 }
 
 TEST_F(Bq27542FuelGaugeTest, TheDefaultPropertiesAreReadOnlyButForTheRecord) {
@@ -105,8 +109,6 @@ TEST_F(Bq27542FuelGaugeTest, TheDefaultPropertiesAreReadOnlyButForTheRecord) {
     EXPECT_NE(dump.find(line), std::string::npos) << line;
     EXPECT_EQ(Describe(gauge.Set(FuelGaugeProperty{number}, 5)), record ? "3" : "2");
   }
-  const Bq27542FuelGauge odd("", MapOf(FuelGaugeProperty::Name, {.resetValue = 5}));
-  EXPECT_THROW(odd.DumpPropertyMap(), std::bad_variant_access);
 }
 
 TEST_F(Bq27542FuelGaugeTest, ReleasesTheLockBeforeItLogs) {
@@ -155,15 +157,9 @@ TEST_F(Bq27542FuelGaugeTest, IgnoresTheGlobalLocale) {
   answers += Describe(odd.Get(value, 0)) + ", ";
   answers += Describe(Bq27542FuelGauge(overrideFile).Get(ResetValue, 0));
   odd.Get(FuelGaugeProperty{12345}, 0);
-  odd.DumpPropertyMap();
   const std::string text = LifetimeData{}.ToString();
   std::locale::global(before);
   EXPECT_EQ(answers, "0, 0 int 4200, 0 record " + Bytes(LifetimeData{.maxTemp = 1}));
   EXPECT_EQ(text, LifetimeData{}.ToString());
-  const std::string records = log.Take();
-  for (const char* part : {"definition: 12345\n", "property: 12345ex: ", "Type: 4200 : "}) {
-    EXPECT_NE(records.find(part), std::string::npos) << records;
-  }
+  EXPECT_NE(log.Take().find("definition: 12345\n"), std::string::npos);
 }
-
-}  // namespace

@@ -3,20 +3,16 @@
 
 #include <cerrno>
 #include <cstring>
+#include <string>
 
 #include "support/Fault.hpp"
 #include "support/FolderGauge.hpp"
-#include "support/OpenFiles.hpp"
 
 using namespace dral;
 
 TEST(Readable, AnswersAsTheHintAsks) {
   FolderGauge at;
   const std::string path = at.folder.At("lifetime_data");
-  const PropertyValue text = "ignored";
-  const PropertyValue number = 99;
-  const PropertyValue natural = 99U;
-  const PropertyValue flag = true;
   const PropertyValue record = LifetimeData{1, 2, 3, 4, 5, 6};
   const std::string blank = Bytes(LifetimeData{});
   const std::string page = "12345 " + std::string(5000, '.');  // more than a block
@@ -39,36 +35,35 @@ TEST(Readable, AnswersAsTheHintAsks) {
     Fault fault{};
   };
   const Case cases[] = {
-      {"Not charging\n", text, "0 string Not charging"},
-      {"\na\r\n b\t\n\n", text, "0 string a\r b\t"},
-      {"", text, "4 string ", noText},
-      {page + "\n" + page, text, "0 string " + page + page},
-      {std::string("\0\n\xFF", 3), text, std::string("0 string \0\xFF", 11)},
-      {"  17 mAh\n", number, "0 int 17"},
-      {" \t\n\v\f\r-5", number, "0 int -5"},
-      {"+5", number, "0 int 5"},
-      {"+-5", number, "2 int 99", threw + "stoi\n"},
-      {"2147483647", number, "0 int 2147483647"},
-      {"2147483648", number, "2 int 99", threw + "stoi\n"},
-      {"-2147483648", number, "0 int -2147483648"},
-      {"-2147483649", number, "2 int 99", threw + "stoi\n"},
-      {"", number, "2 int 99", noText + threw + "stoi\n"},
-      {"1\n", flag, "0 bool true"},
-      {"2\n", flag, "0 bool false"},
-      {"true\n", flag, "2 bool true", threw + "stoi\n"},
-      {"4294967295\n", natural, "0 uint 4294967295"},
-      {" 4294967296 x", natural, "2 uint 99", tooMuch + "4294967296\n" + threw + " 4294967296 x\n"},
-      {"-1", natural, "2 uint 99", tooMuch + "18446744073709551615\n" + threw + "-1\n"},
-      {"-18446744073709551615", natural, "0 uint 1"},
-      {"18446744073709551616", natural, "2 uint 99", threw + "stoul\n"},
+      {"\na\r\n b\t\n\n", "hint", "0 string a\r b\t"},
+      {"", "hint", "4 string ", noText},
+      {page + "\n" + page, "hint", "0 string " + page + page},
+      {std::string("\0\n\xFF", 3), "hint", std::string("0 string \0\xFF", 11)},
+      {"  17 mAh\n", 99, "0 int 17"},
+      {" \t\n\v\f\r-5", 99, "0 int -5"},
+      {"+5", 99, "0 int 5"},
+      {"+-5", 99, "2 int 99", threw + "stoi\n"},
+      {"2147483647", 99, "0 int 2147483647"},
+      {"2147483648", 99, "2 int 99", threw + "stoi\n"},
+      {"-2147483648", 99, "0 int -2147483648"},
+      {"-2147483649", 99, "2 int 99", threw + "stoi\n"},
+      {"", 99, "2 int 99", noText + threw + "stoi\n"},
+      {"1\n", true, "0 bool true"},
+      {"2\n", true, "0 bool false"},
+      {"true\n", true, "2 bool true", threw + "stoi\n"},
+      {"4294967295\n", 99U, "0 uint 4294967295"},
+      {" 4294967296 x", 99U, "2 uint 99", tooMuch + "4294967296\n" + threw + " 4294967296 x\n"},
+      {"-1", 99U, "2 uint 99", tooMuch + "18446744073709551615\n" + threw + "-1\n"},
+      {"-18446744073709551615", 99U, "0 uint 1"},
+      {"18446744073709551616", 99U, "2 uint 99", threw + "stoul\n"},
       {std::string(32, 'r') + "s", record, "0 record " + std::string(32, 'r')},
       {"0123456789", record, "4 record 0123456789" + blank.substr(10), noRecord},
-      {page, text, "0 string " + page, "", {"open", 0, EINTR}},
-      {page, text, "3 string ", noFile, {"open", 0, EMFILE}},
+      {page, "hint", "0 string " + page, "", {"open", 0, EINTR}},
+      {page, "hint", "3 string ", noFile, {"open", 0, EMFILE}},
       {page, record, "3 record " + blank, noRecordFile, {"open", 0, EMFILE}},
-      {page, text, "0 string " + page, "", {"read", 1, EINTR, 5}},
-      {page, text, "4 string ", noText, {"read", 2, EIO}},  // after a whole block
-      {page, number, "2 int 99", noText + threw + "stoi\n", {"read", 1, EIO, 5}},
+      {page, "hint", "0 string " + page, "", {"read", 1, EINTR, 5}},
+      {page, "hint", "4 string ", noText, {"read", 2, EIO}},  // after a whole block
+      {page, 99, "2 int 99", noText + threw + "stoi\n", {"read", 1, EIO, 5}},
       {page, record, "4 record 12345 " + blank.substr(6), noRecord, {"read", 1, EIO, 6}},
   };
   for (const Case& each : cases) {

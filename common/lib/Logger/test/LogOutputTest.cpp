@@ -4,12 +4,11 @@
 
 #include <cstdlib>
 #include <stdexcept>
+#include <string>
 
 using namespace dral;
 
-namespace {
-
-std::string Emitted(unsigned level, const std::string& text) {
+static std::string Emitted(unsigned level, const std::string& text) {
   testing::internal::CaptureStderr();
   LogClient("lib/src/Class", "Function", 12, LogLevel{level}, LogCategory{1}) << text;
   return testing::internal::GetCapturedStderr();
@@ -26,12 +25,11 @@ TEST(LogOutput, LinesAreWhatJournaldReads) {
       "\\xc0\\x9b \\xe0\\x80\\x9b \\xe2\\x82 \\xed\\xa0\\x80 \\xf5\\x80\\x80\\x80\n");
 }
 
-TEST(LogOutput, PiecesAreJoinedAndAFlushSplitsNothing) {
+TEST(LogOutput, ASinkAloneGetsEachRecordWhole) {
   std::string text;
   LogOutput::SetSink([&text](const LogRecord& record) { text += record.text + "|"; });
-  LogClient("s", "f", 1, LogLevel{3}, LogCategory{1})
-      << "a" << 4200 << std::flush<char, std::char_traits<char>> << -1;
-  EXPECT_EQ(Emitted(3, "last"), "") << "the sink alone gets it";
+  LogClient("s", "f", 1, LogLevel{3}, LogCategory{1}) << "a" << 4200 << -1;
+  EXPECT_EQ(Emitted(3, "last"), "");
   EXPECT_EQ(text, "a4200-1|last|");
   LogOutput::SetSink([](const LogRecord&) { throw std::runtime_error("full"); });
   EXPECT_EQ(Emitted(3, "x"), "<3>a log record was lost: out of memory, or its sink threw\n");
@@ -63,5 +61,3 @@ TEST(LogOutput, LevelComesFromTheEnvironmentAndThenFromTheProgram) {
   EXPECT_TRUE(LogClient::LevelIsEnabled(LogLevel{6}));
   EXPECT_FALSE(LogClient::LevelIsEnabled(LogLevel{7}));
 }
-
-}  // namespace

@@ -4,10 +4,13 @@
 #include <FuelGaugeStatus.hpp>
 #include <PropertyValue.hpp>
 #include <array>
+#include <filesystem>
+#include <iterator>
 #include <locale>
 #include <sstream>
 #include <string>
 #include <utility>
+#include <variant>
 
 // What a call answered, as one line of text, so that tables can hold it: "0 int 4200" for a status and
 // its value.
@@ -30,4 +33,9 @@ inline std::string Describe(const std::pair<dral::FuelGaugeStatus, dral::Propert
        << std::array{" string ", " int ", " uint ", " bool ", " record "}[answer.second.index()];
   std::visit([&text](const auto& value) { text << value; }, answer.second);
   return text.str();
+}
+
+/// @return how many files this process has open
+inline std::ptrdiff_t OpenFiles() {
+  return std::distance(std::filesystem::directory_iterator("/proc/self/fd"), {});
 }

@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: MIT
+// Included once by each fuzz target.
 #pragma once
 
+#include <LogOutput.hpp>
+#include <cstddef>
+#include <cstdint>
 #include <cstdlib>
 #include <string>
 
@@ -12,4 +16,10 @@ inline void Require(bool promise) {
   if (!promise) {
     std::abort();
   }
+}
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  dral::LogOutput::SetLevel(dral::LogLevel{0});
+  Target(std::string(data, data + size));
+  return 0;
 }

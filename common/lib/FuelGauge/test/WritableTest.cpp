@@ -35,6 +35,7 @@ TEST(Writable, WritesJustTheValueInTheFormOfItsType) {
       {false, "0 0"},
       {"any\ntext ", "0 any\ntext "},
       {"", "0 "},
+      {std::string(5000, 'x'), "0 " + std::string(5000, 'x')},
       {given, "0 " + Bytes(given)},
       {"text", "3 " + before, {"stat", 0, EACCES}, notFound},
       {"text", "3 ", {"found", 0, ENOENT}, notOpened},

@@ -3,6 +3,11 @@
 
 #include <gtest/gtest.h>
 
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
 namespace fuelgauge {
 namespace {
 
@@ -18,24 +23,21 @@ Readings ReadingsOf(std::optional<int> current) {
 }
 
 TEST(Summary, GapsMoveNoCharge) {
-  struct Case {
-    std::vector<std::pair<int, std::optional<int>>> samples;  // seconds, µA
-    std::string moved;
-  };
+  using Samples = std::vector<std::pair<int, std::optional<int>>>;  // seconds, µA
   const std::string unknown = " in which the current was unknown";
-  const Case cases[] = {
+  const std::pair<Samples, std::string> cases[] = {
       {{{100, -360000}, {110, -720000}, {120, -720000}}, "-3.5 mAh"},
       {{{0, 3600000}, {10, {}}, {20, {}}, {30, 3600000}, {40, 3600000}},
        "10.0 mAh, not counting 1 gap of 30 s" + unknown},
       {{{0, 3600000}, {10, 3600000}, {3720, 3600000}, {3730, 3600000}, {3740, {}}},
        "20.0 mAh, not counting 2 gaps of 1 h 2 min 0 s in all" + unknown},
   };
-  for (const Case& each : cases) {
+  for (const auto& [samples, moved] : cases) {
     Summary summary(Summary::Seconds(10));
-    for (const auto& [time, current] : each.samples) {
+    for (const auto& [time, current] : samples) {
       summary.Add(Summary::Seconds(time), ReadingsOf(current));
     }
-    EXPECT_EQ(summary.Lines().back(), "charge moved: " + each.moved);
+    EXPECT_EQ(summary.Lines().back(), "charge moved: " + moved);
   }
   EXPECT_TRUE(Summary(Summary::Seconds(1)).Lines().empty());
 }

@@ -6,7 +6,9 @@
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
+#include <unistd.h>
 
+#include <array>
 #include <atomic>
 #include <cerrno>
 #include <chrono>
@@ -18,7 +20,6 @@
 #include <string>
 #include <thread>
 
-#include "File.hpp"
 #include "support/LogCapture.hpp"
 #include "support/Outcome.hpp"
 
@@ -30,23 +31,27 @@ constexpr auto Record = FuelGaugeProperty::LifetimeData;
 // What the driver calls the chip, such as "0-0055".
 const std::string Chip = std::filesystem::canonical(Supply + "/device").filename();
 
-/// @return the name of the error, empty for none
-static std::string ErrorOf(const File& file) {
-  return file.Error() != 0 ? ::strerrorname_np(file.Error()) : "";
-}
-
 /// @return the text that the file gives, and the name of the error that ends it, if any
 static std::string PlainRead(const std::string& path) {
-  File file(path, O_RDONLY);
-  std::string text(4096, ' ');
-  text.resize(file.Read(text));
-  return text + ErrorOf(file);
+  const int file = ::open(path.c_str(), O_RDONLY);
+  std::array<char, 4096> block;
+  std::string text;
+  ssize_t count = file < 0 ? -1 : 1;
+  while (count > 0 && (count = ::read(file, block.data(), block.size())) > 0) {
+    text.append(block.data(), static_cast<std::size_t>(count));
+  }
+  text += count < 0 ? ::strerrorname_np(errno) : "";
+  ::close(file);
+  return text;
 }
 
+/// @return the name of the error, empty for none
 static std::string PlainWrite(const std::string& path, const std::string& text) {
-  File file(path, O_WRONLY);
-  file.Write(text);
-  return ErrorOf(file);
+  const int file = ::open(path.c_str(), O_WRONLY);
+  const ssize_t count = ::write(file, text.data(), text.size());
+  const std::string error = count < 0 ? ::strerrorname_np(errno) : "";
+  ::close(file);
+  return error;
 }
 
 /// A register or fault of the simulated chip, set while this lives.

@@ -14,14 +14,11 @@ TEST(Units, NumbersReadAsPeopleSayThem) {
       {-432327, Unit::Microampere, "-432 mA"},
       {-499, Unit::Microampere, "-499 µA"},
       {500, Unit::Microampere, "1 mA"},
-      {0, Unit::Microampere, "0 mA"},
       {-5, Unit::TenthDegreeCelsius, "-0.5 °C"},
       {2147483647, Unit::MicroampereHour, "2147484 mAh"},
       {-2147483648, Unit::Microwatt, "-2147484 mW"},
       {1249920, Unit::Second, "347:12 h"},
       {59, Unit::Second, "0:01 h"},
-      {65535, Unit::Millivolt, "65.535 V"},
-      {960, Unit::None, "960"},
   };
   for (const auto& [number, unit, text] : cases) {
     EXPECT_EQ(ForPeople(number, unit), text);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Many threads, for KESP_SOAK_OPERATIONS operations in all; without it for 20000.
 #include <gtest/gtest.h>
+#include <malloc.h>
 
 #include <atomic>
 #include <cstdint>
@@ -27,6 +28,7 @@ TEST(Threads, OperationsOnOneObjectNeverOverlap) {
   shared.folder.Write("lifetime_data", Bytes({}));
   shared.folder.Write("status", "Full\n");
   const auto files = OpenFiles();
+  const auto heap = ::mallinfo2().uordblks;
   std::atomic<int> wrong = 0;
   std::vector<std::future<void>> threads;
   for (std::int16_t number = 1; number <= Threads; ++number) {
@@ -49,5 +51,6 @@ TEST(Threads, OperationsOnOneObjectNeverOverlap) {
   }
   EXPECT_EQ(wrong, 0);
   EXPECT_EQ(OpenFiles(), files);
+  EXPECT_LT(::mallinfo2().uordblks, heap + 65536);
   EXPECT_EQ(shared.log.Take(), "");
 }

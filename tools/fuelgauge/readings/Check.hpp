@@ -9,7 +9,7 @@ namespace fuelgauge {
 
 /// A rule that is broken.
 struct Finding {
-  const Rule* rule;
+  const Rule* rule = nullptr;
   Evidence evidence;
 };
 

@@ -10,12 +10,8 @@ namespace {
 
 TEST(MetricsText, NumbersAreExact) {
   const std::tuple<std::int64_t, int, std::string> cases[] = {
-      {1, 6, "0.000001"},
-      {0, 6, "0"},
-      {-5, 1, "-0.5"},
-      {100, 2, "1"},
-      {65535, 2, "655.35"},
-      {-2147483648LL * 36, 4, "-7730941.1328"},
+      {1, 6, "0.000001"}, {0, 6, "0"},          {-5, 1, "-0.5"},
+      {100, 2, "1"},      {65535, 2, "655.35"}, {-2147483648LL * 36, 4, "-7730941.1328"},
   };
   for (const auto& [number, decimals, digits] : cases) {
     MetricsText text;

@@ -18,8 +18,8 @@ class MetricsText {
   /// The samples from now on are those of the supply of this @p name.
   void Supply(std::string name) { supply = std::move(name); }
 
-  /// Begins a family, "fuelgauge_" and @p name, or goes on with it. By its name's end, "_total", one is a
-  /// counter; the others are gauges.
+  /// Begins the family "fuelgauge_" and @p name, or goes on with it. A name that ends with "_total" is a
+  /// counter's, any other a gauge's.
   void Family(std::string_view name, std::string_view help);
 
   /// Adds a sample to the family: @p number divided by ten to the @p decimals, exactly.

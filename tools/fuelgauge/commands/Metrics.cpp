@@ -36,18 +36,23 @@ ExitStatus Metrics(const GaugeOptions& which, const MetricsOptions& options) {
   if (options.all && !which.devices.empty()) {
     throw UsageError("--all cannot be combined with --device");
   }
+  ExitStatus status = ExitStatus::Success;
   std::map<std::string, Readings> supplies;
   for (const GaugeOptions& each : Gauges(which, options.all)) {
     const Gauge gauge(each);
     const std::string name = TerminalSafe(gauge.SupplyName());  // as the label has it
     if (!supplies.emplace(name, gauge.ReadAll()).second) {
-      throw UsageError("--device: two have the name '" + name + "'");
+      if (!options.all) {
+        throw UsageError("--device: two have the name '" + name + "'");
+      }
+      Complain("'" + name + "' was left out: another supply has the same name");
+      status = ExitStatus::Failure;
     }
   }
   const std::string text = MetricsOf(supplies);
   try {
     if (options.output) {
-      OutputFile(*options.output).Write(text);
+      PutInPlace(*options.output, text);
     } else {
       std::cout << text;
     }
@@ -59,7 +64,7 @@ ExitStatus Metrics(const GaugeOptions& which, const MetricsOptions& options) {
     Complain("no battery; " + SuppliesForPeople());
     return ExitStatus::FileError;
   }
-  return ExitStatus::Success;
+  return status;
 }
 
 }  // namespace
@@ -69,7 +74,7 @@ Action AddMetrics(CLI::App& parser) {
   parser.add_flag("--all", options->all, "Every battery of the kernel");
   parser
       .add_option("--output", options->output,
-                  "Write to FILE atomically instead of standard output; follows links")
+                  "Replace FILE atomically instead of printing; no link is followed")
       ->type_name("FILE")
       ->check(NotEmpty);
   return [options](const GaugeOptions& which) { return Metrics(which, *options); };

@@ -4,7 +4,6 @@
 #include <stdexcept>
 #include <string>
 #include <string_view>
-#include <utility>
 
 namespace fuelgauge {
 
@@ -13,20 +12,10 @@ class OutputError : public std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
-/// A file that is put in place whole: who reads it sees the old text or the new one, after a power cut
-/// as well.
-class OutputFile {
- public:
-  /// @param path links in it are followed: the file meant is replaced, never a link
-  explicit OutputFile(std::string path) : path(std::move(path)) {}
-
-  /// Replaces the file's text, or makes the file; an old one keeps its mode and, where we may give
-  /// files away, its owner. Anything but a regular file is refused.
-  /// @throws OutputError
-  void Write(std::string_view text) const;
-
- private:
-  std::string path;
-};
+/// Puts a file with this @p text in place whole: who reads @p path sees the old text or the new one, after
+/// a power cut as well. The file is always new, of mode 0644. Where @p path is a link, or anything else that
+/// is not a regular file, it is left alone: another user may have put it there for root to follow.
+/// @throws OutputError
+void PutInPlace(const std::string& path, std::string_view text);
 
 }  // namespace fuelgauge

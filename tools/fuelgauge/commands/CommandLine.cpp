@@ -2,11 +2,13 @@
 #include "commands/CommandLine.hpp"
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <cstdlib>
 #include <exception>
 #include <iostream>
 #include <new>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -19,11 +21,15 @@ namespace fuelgauge {
 namespace {
 
 // The words of the command line, the last one first, as CLI11 wants them. Behind "--device=" it would
-// take the next word for the value.
+// take the next word for the value, and "[a=1,b=2]" for two words.
 std::vector<std::string> Words(int argc, char** argv) {
   std::vector<std::string> words;
   for (int i = argc - 1; i > 0; --i) {
     std::string word = argv[i];
+    const bool value = std::string_view(argv[i - 1]).starts_with("--");
+    if (!value && word.starts_with('[') && word.ends_with(']')) {
+      throw UsageError("not expected: '" + word + "'; 'fuelgauge --help' shows the usage");
+    }
     if (word.starts_with("--") && word.ends_with("=")) {
       words.emplace_back();
       word.pop_back();
@@ -33,13 +39,27 @@ std::vector<std::string> Words(int argc, char** argv) {
   return words;
 }
 
+// @return the word of which CLI11 has left @p rest, such as "-=false" of "-v=false"
+std::string AsGiven(const std::string& rest, const std::vector<std::string>& words) {
+  const auto given = std::find_if(words.begin(), words.end(), [&rest](const std::string& word) {
+    return word.starts_with('-') && word.ends_with(rest.substr(1));
+  });
+  return rest.starts_with('-') && given != words.end() ? *given : rest;
+}
+
 // @return what is wrong, and the help that has the option or the word in question
-std::string Explain(const CLI::ParseError& error, const CLI::App& app) {
+std::string Explain(const CLI::ParseError& error, const CLI::App& app,
+                    const std::vector<std::string>& words) {
   std::string text = error.what();
-  if (error.get_exit_code() == static_cast<int>(CLI::ExitCodes::ExtrasError)) {
+  const auto is = [&error](CLI::ExitCodes code) {
+    return error.get_exit_code() == static_cast<int>(code);
+  };
+  const std::vector<std::string> remaining = app.remaining(true);  // in the order given
+  if (is(CLI::ExitCodes::ExtrasError) ||
+      (is(CLI::ExitCodes::RequiredError) && !remaining.empty())) {
     text = "not expected:";
-    for (const std::string& word : app.remaining(true)) {  // in the order given
-      text.append(" '").append(word).append("'");
+    for (const std::string& word : remaining) {
+      text.append(" '").append(AsGiven(word, words)).append("'");
     }
   }
   const auto commands = app.get_subcommands();
@@ -74,14 +94,15 @@ ExitStatus Run(int argc, char** argv) {
     parser->callback([&action, run = command.add(*parser)] { action = run; });
   }
 
+  const std::vector<std::string> words = Words(argc, argv);
   try {
-    app.parse(Words(argc, argv));
+    app.parse(std::vector<std::string>(words));
   } catch (const CLI::ParseError& error) {
     if (error.get_exit_code() == static_cast<int>(CLI::ExitCodes::Success)) {
       app.exit(error);  // --help or --version: prints it
       return ExitStatus::Success;
     }
-    throw UsageError(Explain(error, app));
+    throw UsageError(Explain(error, app, words));
   }
   if (!action) {
     throw UsageError("no command given; 'fuelgauge --help' shows them all");
@@ -99,7 +120,7 @@ ExitStatus RunCommandLine(int argc, char** argv) {
   try {
     return Run(argc, argv);
   } catch (const UsageError& error) {
-    Complain(error.what());
+    Complain(error.Text());
     return ExitStatus::Usage;
   } catch (const RecordBusy& error) {
     Complain(error.what());

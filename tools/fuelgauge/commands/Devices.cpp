@@ -7,6 +7,7 @@
 #include "output/Table.hpp"
 #include "output/Text.hpp"
 #include "readings/Supplies.hpp"
+#include "readings/UsageError.hpp"
 
 namespace fuelgauge {
 namespace {
@@ -40,7 +41,13 @@ ExitStatus Devices(bool json) {
 Action AddDevices(CLI::App& parser) {
   const auto json = std::make_shared<bool>();
   parser.add_flag("--json", *json, "Answer in JSON");
-  return [json](const GaugeOptions& /*which*/) { return Devices(*json); };
+  return [json](const GaugeOptions& which) {
+    if (!which.devices.empty() || !which.lifetimeFile.empty()) {
+      throw UsageError(
+          "'devices' lists all batteries: it takes no --device and no --lifetime-file");
+    }
+    return Devices(*json);
+  };
 }
 
 }  // namespace fuelgauge

@@ -2,7 +2,6 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <charconv>
 #include <chrono>
 #include <csignal>
 #include <cstdint>
@@ -13,7 +12,6 @@
 #include <optional>
 #include <sstream>
 #include <string_view>
-#include <system_error>
 
 #include "commands/Commands.hpp"
 #include "commands/Presence.hpp"
@@ -24,6 +22,7 @@
 #include "output/Screen.hpp"
 #include "output/Text.hpp"
 #include "output/Timestamp.hpp"
+#include "readings/Number.hpp"
 #include "readings/Summary.hpp"
 
 using dral::FuelGaugeProperty;
@@ -39,23 +38,26 @@ struct WatchOptions {
   bool json = false;
 };
 
-// CLI11's own range check takes "nan" and words it less clearly.
-std::string Seconds(const std::string& text) {
+// Not by CLI11: it takes "nan" for a number of seconds, and 010 for eight samples.
+double Seconds(const std::string& text) {
   std::istringstream stream(text);
   stream.imbue(std::locale::classic());
   double seconds = 0;
-  return stream >> std::noskipws >> seconds && stream.peek() == std::istream::traits_type::eof() &&
-                 seconds >= 0.1 && seconds <= 86400
-             ? ""
-             : "'" + text + "' is not a number of seconds from 0.1 to 86400";
+  if (!(stream >> std::noskipws >> seconds) || stream.peek() != std::istream::traits_type::eof() ||
+      seconds < 0.1 || seconds > 86400) {
+    throw CLI::ValidationError("--interval",
+                               "'" + text + "' is not a number of seconds from 0.1 to 86400");
+  }
+  return seconds;
 }
 
-std::string WholeNumber(const std::string& text) {
-  std::uint64_t number = 0;
-  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-  return error == std::errc() && end == text.data() + text.size() && number > 0
-             ? ""
-             : "'" + text + "' is not a whole number from 1 to 18446744073709551615";
+std::uint64_t Count(const std::string& text) {
+  const auto number = WholeNumber<std::uint64_t>(text);
+  if (!number || *number == 0) {
+    throw CLI::ValidationError(
+        "--count", "'" + text + "' is not a whole number from 1 to 18446744073709551615");
+  }
+  return *number;
 }
 
 void PrintLine(const std::string& time, const Readings& readings) {
@@ -128,6 +130,7 @@ ExitStatus Watch(const Gauge& gauge, const WatchOptions& options) {
   std::optional<Screen> screen;
   if (options.csv) {
     PrintCsvHeader();
+    std::cout.flush();  // the first read may take its time
   } else if (!options.json && DrawsInPlace()) {
     screen.emplace();
   }
@@ -152,8 +155,8 @@ ExitStatus Watch(const Gauge& gauge, const WatchOptions& options) {
       PrintSample(options, time, readings);
     }
     next = std::max(next + interval, steady_clock::now());  // a slow gauge is not hurried after
-    if (!std::cout.flush() || ReaderIsGone()) {
-      return status;  // main sees to it
+    if (!OutputIsOut() || ReaderIsGone()) {
+      return status;
     }
     if (taken == options.count || !WaitUntil(next, signals, screen)) {
       Tell(summary, options);
@@ -167,13 +170,15 @@ ExitStatus Watch(const Gauge& gauge, const WatchOptions& options) {
 Action AddWatch(CLI::App& parser) {
   const auto options = std::make_shared<WatchOptions>();
   parser
-      .add_option("--interval", options->intervalSeconds,
-                  "Seconds between samples, 0.1 to 86400; default 1")
-      ->type_name("S")
-      ->check(Seconds);
-  parser.add_option("--count", options->count, "Samples to take; default: until Ctrl-C")
-      ->type_name("N")
-      ->check(WholeNumber);
+      .add_option_function<std::string>(
+          "--interval", [options](const auto& text) { options->intervalSeconds = Seconds(text); },
+          "Seconds between samples, 0.1 to 86400; default 1")
+      ->type_name("S");
+  parser
+      .add_option_function<std::string>(
+          "--count", [options](const auto& text) { options->count = Count(text); },
+          "Samples to take; default: until Ctrl-C")
+      ->type_name("N");
   CLI::Option* const csv =
       parser.add_flag("--csv", options->csv, "A header, then one line of raw numbers per sample");
   parser.add_flag("--json", options->json, "One line of JSON per sample")->excludes(csv);

@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "readings/LifetimeField.hpp"
 
-#include <charconv>
 #include <string>
-#include <system_error>
 #include <type_traits>
 
+#include "readings/Number.hpp"
 #include "readings/UsageError.hpp"
 
 namespace fuelgauge {
@@ -39,15 +38,13 @@ void LifetimeField::Store(dral::LifetimeData& data, int value) const {
 }
 
 int LifetimeField::Parse(std::string_view text) const {
-  int value = 0;
-  const char* const end = text.data() + text.size();
-  const auto result = std::from_chars(text.data(), end, value);
-  if (result.ec != std::errc() || result.ptr != end || !Allows(value)) {
+  const auto value = WholeNumber<int>(text);
+  if (!value || !Allows(*value)) {
     throw UsageError(std::string(name) + ": '" + std::string(text) +
                      "' is not a whole number from " + std::to_string(least) + " to " +
                      std::to_string(most));
   }
-  return value;
+  return *value;
 }
 
 const LifetimeField& FindField(std::string_view name) {

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "readings/Limit.hpp"
 
-#include <charconv>
 #include <string>
-#include <system_error>
 
+#include "readings/Number.hpp"
 #include "readings/UsageError.hpp"
 
 namespace fuelgauge {
@@ -20,18 +19,18 @@ Rule LimitOf(Bound bound, std::string_view text) {
     throw UsageError(name + " is not a number, and has no limits");
   }
   const std::string_view digits = text.substr(equals + 1);
-  int limit = 0;
-  const auto [end, error] = std::from_chars(digits.begin(), digits.end(), limit);
-  if (error != std::errc() || end != digits.end()) {
+  const auto number = WholeNumber<int>(digits);
+  if (!number) {
     throw UsageError(name + ": '" + std::string(digits) + "' is not a whole number of 32 bits");
   }
+  const int limit = *number;
   const bool least = bound == Bound::Minimum;
   return {least ? "minimum" : "maximum", Severity::Error,
           name + " must be at " + (least ? "least " : "most ") + Raw(limit, property.unit),
           [id = property.id, least, limit](const Readings& readings) {
             const auto number = readings.Number(id);
             const bool kept = number && (least ? *number >= limit : *number <= limit);
-            return kept ? Evidence{} : Evidence{{id}, {}};
+            return kept ? Evidence{} : Evidence{{id}, {}, true};
           }};
 }
 

@@ -24,10 +24,18 @@ struct CheckOptions {
   std::vector<Rule> limits;
 };
 
-// In quotes, since a blank may be what is wrong with a text.
-std::string ValueForPeople(const Reading& reading) {
-  const auto text = reading.Text();
-  return text ? "'" + std::string(*text) + "'" : reading.ForPeople();
+// A text in quotes, since a blank may be what is wrong with it; a number not rounded, since its last
+// digit may be.
+std::string ValueForPeople(const Reading& reading, bool raw) {
+  if (const auto text = reading.Text()) {
+    return "'" + std::string(*text) + "'";
+  }
+  const auto number = reading.Number();
+  const Unit unit = reading.property->unit;
+  if (!number || unit == Unit::None) {
+    return reading.ForPeople();
+  }
+  return raw ? Raw(*number, unit) : Exact(*number, unit);
 }
 
 // Such as "Status 'Discharging', CurrentNow 412 mA".
@@ -40,7 +48,7 @@ std::string ValuesForPeople(const Evidence& evidence, const Readings& readings) 
   for (const auto id : evidence.properties) {
     const Reading& reading = readings[id];
     add(reading.property->name, reading.Succeeded() ? " " : ": ",
-        reading.Succeeded() ? ValueForPeople(reading) : reading.Reason());
+        reading.Succeeded() ? ValueForPeople(reading, evidence.raw) : reading.Reason());
   }
   for (const LifetimeField* field : evidence.fields) {
     add(field->name, " ", ForPeople(field->Value(*readings.Record()), field->unit));
@@ -99,14 +107,22 @@ void PrintForPeople(const std::vector<Finding>& findings, const Readings& readin
 ExitStatus Check(const Gauge& gauge, const CheckOptions& options) {
   const Readings readings = gauge.ReadAll();
   const std::vector<Finding> findings = Check(readings, options.limits);
+  const std::string type = gauge.SupplyType();
+  const bool battery = type.empty() || type == "Battery";
+  const bool judged =
+      battery && readings.AnySucceeded() && (!findings.empty() || readings.AnyMeasured());
   if (options.json) {
     PrintJson(findings, readings);
-  } else if (readings.AnySucceeded()) {
+  } else if (judged) {
     PrintForPeople(findings, readings);
   }
-  if (!readings.AnySucceeded()) {
+  if (!battery) {
+    Complain("'" + gauge.SupplyName() + "' is no battery: its type is '" + type + "'");
+    return ExitStatus::FileError;
+  }
+  if (!judged) {
     Complain(gauge.Missing(readings));
-    return ToExitStatus(readings.Telling());
+    return ToExitStatus(readings.Telling().status);
   }
   const Severity least = Severities.at(options.severity);
   const bool wrong = std::any_of(findings.begin(), findings.end(), [least](const Finding& each) {

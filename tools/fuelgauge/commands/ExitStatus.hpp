@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "readings/Reading.hpp"
+#include <FuelGaugeStatus.hpp>
 
 namespace fuelgauge {
 
@@ -14,17 +14,13 @@ enum class ExitStatus : int {
   NoData = 4,
   ReadBackDiffers = 5,  ///< a write went through, but the gauge holds something else
   Usage = 64,           ///< bad words on the command line (EX_USAGE)
-  Software = 70,        ///< out of memory, a file too large, or a fault of ours (EX_SOFTWARE)
+  Software = 70,        ///< out of memory, or a fault of ours (EX_SOFTWARE)
   OutputError = 74,     ///< the output could not be written (EX_IOERR)
   Busy = 75,            ///< another process holds the record's lock (EX_TEMPFAIL)
 };
 
 constexpr ExitStatus ToExitStatus(dral::FuelGaugeStatus status) {
   return static_cast<ExitStatus>(status);
-}
-
-inline ExitStatus ToExitStatus(const Reading& reading) {
-  return reading.cause.tooLarge.empty() ? ToExitStatus(reading.status) : ExitStatus::Software;
 }
 
 }  // namespace fuelgauge

@@ -61,9 +61,9 @@ ExitStatus Get(const Gauge& gauge, const GetOptions& options) {
     std::visit(PrintBare{}, reading.value);
   }
   if (!reading.Succeeded()) {
-    Complain(options.property + ": " + reading.Reason() + gauge.Others());
+    Complain(options.property + ": " + gauge.Reason(reading));
   }
-  return ToExitStatus(reading);
+  return ToExitStatus(reading.status);
 }
 
 }  // namespace

@@ -43,7 +43,7 @@ ExitStatus List(const Gauge& gauge, bool json) {
   }
   if (!readings.AnySucceeded()) {
     Complain(gauge.Missing(readings));
-    return ToExitStatus(readings.Telling());
+    return ToExitStatus(readings.Telling().status);
   }
   return ExitStatus::Success;
 }

@@ -9,24 +9,30 @@ namespace fuelgauge {
 
 using dral::FuelGaugeStatus;
 
-ExitStatus Refused(const Gauge& gauge, const Property& property, FuelGaugeStatus status) {
-  const std::string reason =
-      status == FuelGaugeStatus::FileError ? WriteRefusal(gauge.File(property)) : "it is read-only";
+ExitStatus NotWritten(const Property& property, const std::string& reason, FuelGaugeStatus status) {
   Complain(std::string(property.name) + ": not written: " + reason);
   return ToExitStatus(status);
 }
 
-ExitStatus Unreadable(const Reading& reading, std::string_view consequence) {
-  Complain(std::string(reading.property->name) + ": " + reading.Reason() +
+ExitStatus Refused(const Gauge& gauge, const Property& property, FuelGaugeStatus status) {
+  if (status != FuelGaugeStatus::FileError) {
+    return NotWritten(property, "it is read-only", status);
+  }
+  const std::string absence = gauge.Absence();
+  return NotWritten(property, absence.empty() ? WriteRefusal(gauge.File(property)) : absence);
+}
+
+ExitStatus Unreadable(const Gauge& gauge, const Reading& reading, std::string_view consequence) {
+  Complain(std::string(reading.property->name) + ": " + gauge.Reason(reading) +
            std::string(consequence));
-  return ToExitStatus(reading);
+  return ToExitStatus(reading.status);
 }
 
 ExitStatus ReadBack(const Gauge& gauge, const Property& property,
                     const dral::LifetimeData& written) {
   const Reading reading = gauge.Read(property);
   if (reading.Record() == nullptr) {
-    return Unreadable(reading, "; whether the write was taken is not known");
+    return Unreadable(gauge, reading, "; whether the write was taken is not known");
   }
   const dral::LifetimeData& held = *reading.Record();
   std::string differences;

@@ -4,12 +4,16 @@
 #include "commands/Commands.hpp"
 #include "commands/ReadBack.hpp"
 #include "commands/RecordLock.hpp"
+#include "readings/RegularFile.hpp"
 
 namespace fuelgauge {
 namespace {
 
 ExitStatus Reset(const Gauge& gauge, const std::string& name) {
   const Property& property = FindProperty(name);
+  if (const std::string reason = Unfit(gauge.File(property)); !reason.empty()) {
+    return NotWritten(property, reason);
+  }
   const RecordLock lock(gauge.File(property));
   if (const auto status = gauge->Reset(property.id); status != dral::FuelGaugeStatus::Success) {
     return Refused(gauge, property, status);

@@ -6,6 +6,7 @@
 #include "commands/ReadBack.hpp"
 #include "commands/RecordLock.hpp"
 #include "readings/LifetimeField.hpp"
+#include "readings/RegularFile.hpp"
 #include "readings/UsageError.hpp"
 
 namespace fuelgauge {
@@ -31,10 +32,13 @@ ExitStatus Set(const Gauge& gauge, const SetOptions& options) {
       throw UsageError("'" + value + "': the field is named twice");
     }
   }
+  if (const std::string reason = Unfit(gauge.File(property)); !reason.empty()) {
+    return NotWritten(property, reason);
+  }
   const RecordLock lock(gauge.File(property));
   const Reading held = gauge.Read(property);
   if (held.Record() == nullptr) {
-    return Unreadable(held, "; nothing was written");
+    return Unreadable(gauge, held, "; nothing was written");
   }
   record = *held.Record();
   for (const std::string& value : options.values) {

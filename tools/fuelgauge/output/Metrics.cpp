@@ -129,8 +129,8 @@ std::string ErrorOf(const Reading& reading) {
   if (reading.cause.error != 0) {
     return ErrorName(reading.cause.error);
   }
-  if (!reading.cause.tooLarge.empty()) {
-    return "too large";
+  if (!reading.cause.unfit.empty()) {
+    return "refused";
   }
   return reading.status == dral::FuelGaugeStatus::Failure ? "not understood" : "no data";
 }

@@ -2,7 +2,6 @@
 #include "readings/Cause.hpp"
 
 #include <fcntl.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -10,6 +9,8 @@
 #include <cerrno>
 #include <cstring>
 #include <string_view>
+
+#include "readings/Descriptor.hpp"
 
 namespace fuelgauge {
 namespace {
@@ -34,39 +35,16 @@ constexpr std::array Errors = {
     ErrorInfo{ENXIO, "ENXIO", NoAnswer},
     ErrorInfo{ETIMEDOUT, "ETIMEDOUT", NoAnswer},
     ErrorInfo{EBUSY, "EBUSY", NoAnswer},
-    ErrorInfo{EAGAIN, "EAGAIN", NoAnswer},
+    ErrorInfo{EAGAIN, "EAGAIN", "the supply is being registered, or removed: try again"},
     ErrorInfo{ENODEV, "ENODEV", "the gauge has gone, or does not answer"},
 };
-
-std::string TooLarge(const std::string& path, const std::string& size) {
-  return "'" + path + "' has " + size + " bytes, which no attribute has";
-}
 
 const ErrorInfo* FindError(int error) {
   return std::find_if(Errors.begin(), Errors.end(),
                       [error](const ErrorInfo& info) { return info.error == error; });
 }
 
-// @return what @p call gives once no signal interrupts it
-template <typename Call>
-auto Uninterrupted(Call call) {
-  auto result = call();
-  while (result < 0 && errno == EINTR) {
-    result = call();
-  }
-  return result;
-}
-
 }  // namespace
-
-Cause Cause::OfSize(const std::string& path) {
-  Cause cause;
-  struct stat status {};
-  if (::stat(path.c_str(), &status) == 0 && S_ISREG(status.st_mode) && status.st_size > MostBytes) {
-    cause.tooLarge = TooLarge(path, std::to_string(status.st_size));
-  }
-  return cause;
-}
 
 Cause Cause::Of(const std::string& path) {
   Cause cause;
@@ -82,12 +60,9 @@ Cause Cause::Of(const std::string& path) {
     count = Uninterrupted([&] { return ::read(file, page.data(), page.size()); });
     cause.error = count < 0 ? errno : 0;
     cause.text.append(page.data(), static_cast<std::size_t>(std::max<ssize_t>(count, 0)));
-  } while (count > 0 && cause.text.size() <= MostBytes);
+  } while (count > 0);
   ::close(file);
-  if (cause.text.size() > MostBytes) {
-    cause.tooLarge = TooLarge(path, "more than " + std::to_string(MostBytes));
-  }
-  if (cause.error != 0 || !cause.tooLarge.empty()) {
+  if (cause.error != 0) {
     cause.text.clear();
   }
   return cause;
@@ -98,7 +73,7 @@ dral::FuelGaugeStatus Cause::Status(bool record) const {
   if (!opened) {
     return FileError;
   }
-  return tooLarge.empty() && (text.empty() || record) ? NoData : Failure;
+  return text.empty() || record ? NoData : Failure;
 }
 
 std::string WriteRefusal(const std::string& path) {

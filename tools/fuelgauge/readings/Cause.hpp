@@ -6,18 +6,12 @@
 
 namespace fuelgauge {
 
-/// The most bytes that a file may have: far more than any attribute or override file has.
-constexpr int MostBytes = 65536;
-
 /// Why a value is missing: what the system answers for its file.
 struct Cause {
   bool opened = false;
-  int error = 0;         ///< the errno of opening or reading it; 0: it was read
-  std::string text;      ///< what was read, which is then not the value asked for
-  std::string tooLarge;  ///< the file and its size, in words, when no attribute has that size
-
-  /// Looks at the size of the file at @p path, without opening it.
-  static Cause OfSize(const std::string& path);
+  int error = 0;      ///< the errno of opening or reading it; 0: it was read
+  std::string text;   ///< what was read, which is then not the value asked for
+  std::string unfit;  ///< why it was not even opened, in words
 
   /// Asks for the file at @p path, now.
   static Cause Of(const std::string& path);

@@ -4,11 +4,13 @@
 #include <unistd.h>
 
 #include <Bq27542FuelGauge.hpp>
+#include <cerrno>
 #include <string_view>
 #include <tuple>
 #include <utility>
 
 #include "readings/LifetimeFile.hpp"
+#include "readings/RegularFile.hpp"
 #include "readings/UsageError.hpp"
 
 namespace fuelgauge {
@@ -18,28 +20,22 @@ using dral::FuelGaugeStatus;
 
 Gauge::Gauge(const GaugeOptions& which)
     : folder(SupplyFolder(which.devices.empty() ? DefaultDevice : which.devices.front())),
-      files(Bq27542FuelGauge::PropertyMapAt(folder)) {
+      files(*Bq27542FuelGauge::PropertyMapAt(folder)) {
   if (which.devices.size() > 1) {
     throw UsageError("--device: 'metrics' alone takes more than one");
   }
-  const std::string& lifetimeFile = which.lifetimeFile;
-  if (!lifetimeFile.empty()) {
-    CheckLifetimeFile(lifetimeFile);
+  if (!which.lifetimeFile.empty()) {
+    files[dral::FuelGaugeProperty::LifetimeData].resetValue = ReadLifetimeFile(which.lifetimeFile);
   }
-  if (which.devices.empty()) {
-    gauge = dral::InterfaceFactory::Create<dral::FuelGaugeIF, std::string_view>("Bq27542FuelGauge",
-                                                                                lifetimeFile);
-  } else {
-    gauge =
-        std::make_unique<Bq27542FuelGauge>(lifetimeFile, Bq27542FuelGauge::PropertyMapAt(folder));
-  }
+  gauge = std::make_unique<Bq27542FuelGauge>("", std::make_unique<dral::PropertyMap>(files));
 }
 
 Reading Gauge::Read(const Property& property, Type type) const {
   const std::string path = File(property);
-  Cause cause = Cause::OfSize(path);
-  if (!cause.tooLarge.empty()) {  // the library would read it to its end
-    return {&property, FuelGaugeStatus::Failure, Hint(type), std::move(cause)};
+  Cause cause;
+  cause.unfit = Unfit(path);
+  if (!cause.unfit.empty()) {  // the library would open it, and read it to its end
+    return {&property, FuelGaugeStatus::FileError, Hint(type), std::move(cause)};
   }
   auto [status, value] = gauge->Get(property.id, Hint(type));
   if (status == FuelGaugeStatus::Success || path.empty()) {
@@ -48,8 +44,7 @@ Reading Gauge::Read(const Property& property, Type type) const {
   cause = Cause::Of(path);
   // It may have come back since. On a bus that fails now and then, the two have to agree.
   constexpr int Tries = 3;
-  for (int again = 0; again < Tries && cause.error == 0 && cause.tooLarge.empty() &&
-                      status != FuelGaugeStatus::Success;
+  for (int again = 0; again < Tries && cause.error == 0 && status != FuelGaugeStatus::Success;
        ++again) {
     std::tie(status, value) = gauge->Get(property.id, Hint(type));
     if (status != FuelGaugeStatus::Success) {
@@ -70,26 +65,37 @@ Readings Gauge::ReadAll() const {
   const bool otherDriver = HasOtherDriver(folder);
   std::vector<Reading> readings;
   for (const Property& property : Properties) {
-    if (files->contains(property.id)) {  // the reset value has none
+    if (files.contains(property.id)) {  // the reset value has none
       readings.push_back(Read(property));
       readings.back().otherDriver = otherDriver;
     }
   }
-  return Readings(std::move(readings), otherDriver && CountsEnergy(folder));
+  return Readings(SupplyName(), std::move(readings), otherDriver && CountsEnergy(folder));
 }
 
-std::string Gauge::Others() const {
-  const bool missing = folder.starts_with(SupplyClass) && ::access(folder.c_str(), F_OK) != 0;
-  return missing ? "; " + SuppliesForPeople() : "";
+std::string Gauge::Absence() const {
+  if (::access(folder.c_str(), F_OK) == 0 || errno != ENOENT) {
+    return "";
+  }
+  return "there is no '" + folder + "'" +
+         (folder.starts_with(SupplyClass) ? "; " + SuppliesForPeople() : "");
 }
 
 std::string Gauge::File(const Property& property) const {
-  const auto file = files->find(property.id);
-  return file != files->end() ? file->second.location : "";
+  const auto file = files.find(property.id);
+  return file != files.end() ? file->second.location : "";
+}
+
+std::string Gauge::Reason(const Reading& reading) const {
+  const std::string absence = Absence();
+  return absence.empty() ? reading.Reason() : absence;
 }
 
 std::string Gauge::Missing(const Readings& readings) const {
-  return "no property could be read in '" + folder + "': " + readings.Telling().Reason() + Others();
+  const std::string absence = Absence();
+  return absence.empty()
+             ? "no value could be read in '" + folder + "': " + readings.Telling().Reason()
+             : absence;
 }
 
 }  // namespace fuelgauge

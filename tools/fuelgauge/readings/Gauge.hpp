@@ -24,7 +24,6 @@ struct GaugeOptions {
 /// That gauge.
 class Gauge {
  public:
-  /// Opens the device's own gauge through the factory, as an application would.
   /// @throws UsageError when @p which names several, when the lifetime file cannot be read, or
   ///         naming its bad entry
   explicit Gauge(const GaugeOptions& which);
@@ -44,15 +43,21 @@ class Gauge {
   /// @return the name under which the kernel has it
   std::string SupplyName() const { return fuelgauge::SupplyName(folder); }
 
-  /// @return what to add to a message when the kernel has no such supply: which there are; else nothing
-  std::string Others() const;
+  /// @return such as "Battery" or "Mains"; empty for a folder that does not say
+  std::string SupplyType() const { return fuelgauge::SupplyType(folder); }
+
+  /// @return when there is no such supply or folder: so, and which supplies there are; else nothing
+  std::string Absence() const;
+
+  /// @return why @p reading failed: also that there is no gauge at all
+  std::string Reason(const Reading& reading) const;
 
   /// @return what to say when not one of @p readings succeeded
   std::string Missing(const Readings& readings) const;
 
  private:
   std::string folder;
-  std::unique_ptr<dral::PropertyMap> files;
+  dral::PropertyMap files;
   std::unique_ptr<dral::FuelGaugeIF> gauge;
 };
 

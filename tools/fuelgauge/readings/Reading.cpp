@@ -87,8 +87,8 @@ std::string Reading::ForPeople() const {
 }
 
 std::string Reading::Reason() const {
-  if (!cause.tooLarge.empty()) {
-    return cause.tooLarge;
+  if (!cause.unfit.empty()) {
+    return cause.unfit;
   }
   if (cause.error == ENODATA && property->id == TimeToEmpty) {
     return "no estimate: the battery is not discharging, or its current is too small (ENODATA)";

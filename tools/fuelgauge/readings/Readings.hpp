@@ -2,6 +2,7 @@
 #pragma once
 
 #include <optional>
+#include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -14,8 +15,11 @@ namespace fuelgauge {
 /// numbers.
 class Readings {
  public:
-  explicit Readings(std::vector<Reading> all, bool countEnergy = false)
-      : all(std::move(all)), countEnergy(countEnergy) {}
+  /// @param supply the name under which the kernel has it
+  Readings(std::string supply, std::vector<Reading> all, bool countEnergy = false)
+      : supply(std::move(supply)), all(std::move(all)), countEnergy(countEnergy) {}
+
+  const std::string& Supply() const { return supply; }
 
   const Reading& operator[](dral::FuelGaugeProperty id) const;
 
@@ -38,14 +42,18 @@ class Readings {
   /// @return whether any of them could be read
   bool AnySucceeded() const;
 
-  /// @return the reading that tells most of a gauge that gives nothing: the first that must be there,
-  ///         or the first
+  /// @return whether more could be read than what the battery is: who made it, and of what
+  bool AnyMeasured() const;
+
+  /// @return the reading that tells most of a gauge that gives nothing: the first that failed and must be
+  ///         there, or the first that failed
   const Reading& Telling() const;
 
   auto begin() const { return all.begin(); }
   auto end() const { return all.end(); }
 
  private:
+  std::string supply;
   std::vector<Reading> all;
   bool countEnergy;
 };

@@ -73,6 +73,13 @@ Find OfOurDriver(Find find) {
   };
 }
 
+// Asks only of chips that measure one cell. Others of the family, such as bq34z100, serve packs.
+Find OfOneCell(Find find) {
+  return [find = OfOurDriver(std::move(find))](const Readings& readings) {
+    return readings.Supply().starts_with("bq27") ? find(readings) : Evidence{};
+  };
+}
+
 }  // namespace
 
 const std::map<std::string, Severity> Severities = {
@@ -100,7 +107,7 @@ const std::vector<Rule> Rules = {
     {"no-battery", Error, "the kernel sees no battery, or its bus is dead", Outside(Present, 1, 1)},
     {"unreadable", Error, "a value that should be there cannot be read", Each(Missing)},
     {"voltage-range", Error, "a single cell has from 2 to 5 V",
-     OfOurDriver(Outside(VoltageNow, 2000000, 5000000))},
+     OfOneCell(Outside(VoltageNow, 2000000, 5000000))},
     {"charge-range",
      Error,
      "a charge is from 0 to 100 %: this one was misread",
@@ -112,7 +119,7 @@ const std::vector<Rule> Rules = {
      Outside(Temperature, dral::LifetimeData::LifetimeMinTemp,
              dral::LifetimeData::LifetimeMaxTemp)},
     {"negative", Error, "what is counted is not below 0", Each(Negative)},
-    {"unknown-word", Warning, "the kernel has no such word", Each(UnknownWord), {"health"}},
+    {"unknown-word", Warning, "this program does not know the word", Each(UnknownWord), {"health"}},
     {"current-sign", Warning,
      "the current flows the other way than the status says: some kernels turn the sign",
      OfOurDriver(When({Status, CurrentNow}, WrongSign))},

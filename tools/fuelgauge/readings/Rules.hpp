@@ -27,6 +27,7 @@ const std::string& NameOf(Severity severity);
 struct Evidence {
   std::vector<dral::FuelGaugeProperty> properties;
   std::vector<const LifetimeField*> fields;  ///< of the lifetime record
+  bool raw = false;  ///< to be shown in the unit in which a user gave a limit
 };
 
 /// One thing that must hold of a gauge that makes sense.

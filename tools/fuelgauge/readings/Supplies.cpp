@@ -10,7 +10,8 @@
 #include <memory>
 #include <string_view>
 
-#include "readings/Cause.hpp"
+#include "readings/RegularFile.hpp"
+#include "readings/UsageError.hpp"
 
 namespace fuelgauge {
 namespace {
@@ -32,8 +33,7 @@ std::vector<Supply> Supplies() {
   std::vector<Supply> supplies;
   for (std::size_t i = 0; i < folders.gl_pathc; ++i) {
     const std::string folder = folders.gl_pathv[i];
-    const std::string type = Cause::Of(folder + "/type").text;
-    supplies.push_back({SupplyName(folder), type.substr(0, type.find('\n'))});
+    supplies.push_back({SupplyName(folder), SupplyType(folder)});
   }
   return supplies;
 }
@@ -62,6 +62,15 @@ std::string SuppliesForPeople() {
 std::string SupplyFolder(const std::string& device) {
   const bool isPath = device == "." || device == ".." || device.find('/') != std::string::npos;
   return isPath ? device : std::string(SupplyClass).append("/").append(device);
+}
+
+std::string SupplyType(const std::string& folder) {
+  try {
+    const std::string text = ContentsOf(folder + "/type");
+    return text.substr(0, text.find('\n'));
+  } catch (const UsageError&) {
+    return "";  // a supply that is going, or a folder that is none
+  }
 }
 
 std::string SupplyName(const std::string& folder) {

@@ -21,6 +21,9 @@ std::string SupplyFolder(const std::string& device);
 /// @return the name of the supply in @p folder: its last part
 std::string SupplyName(const std::string& folder);
 
+/// @return the type of the supply in @p folder, such as "Battery", "Mains" or "USB"; empty when it has none
+std::string SupplyType(const std::string& folder);
+
 /// @return whether a driver other than the kernel's for this family of gauges serves @p folder. What is
 ///         known of the gauge does not hold there. A folder that names no driver, a copy say, is ours.
 bool HasOtherDriver(const std::string& folder);

@@ -70,4 +70,8 @@ std::string ForPeople(std::int64_t number, Unit unit) {
   return info.forPeople.empty() ? text : text.append(" ").append(info.forPeople);
 }
 
+std::string Exact(std::int64_t number, Unit unit) {
+  return number % Info(unit).divisor == 0 ? ForPeople(number, unit) : Raw(number, unit);
+}
+
 }  // namespace fuelgauge

@@ -28,4 +28,7 @@ std::string Raw(std::int64_t number, Unit unit);
 ///         it was read where that would make it 0
 std::string ForPeople(std::int64_t number, Unit unit);
 
+/// @return the same, but as it was read where it would have to be rounded
+std::string Exact(std::int64_t number, Unit unit);
+
 }  // namespace fuelgauge

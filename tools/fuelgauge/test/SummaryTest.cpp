@@ -19,7 +19,7 @@ Readings ReadingsOf(std::optional<int> current) {
       readings.back() = {&property, dral::FuelGaugeStatus::Success, *current};
     }
   }
-  return Readings(std::move(readings));
+  return Readings("", std::move(readings));
 }
 
 TEST(Summary, GapsMoveNoCharge) {

@@ -27,6 +27,11 @@ namespace dral {
 /// and throw only `std::bad_alloc`, when there is no memory left to pass a value along or to log a
 /// failure.
 ///
+/// After each operation `errno` is 0, or the error of the system call that failed: of a read's open or
+/// read, whatever type was asked for; of a write's stat, open, write or close, also when the status is
+/// Success, since the kernel may refuse the value of a file that it opened. It is 0 when the request or the
+/// file's contents are the reason. A gauge of a user's own may do the same, but need not.
+///
 /// Thread-safe: any thread may call any operation at any time, and the file operations of one
 /// object never overlap. Two objects, or two processes, do not exclude each other: who reads a
 /// record, changes it and sets it beside other writers takes a lock of their own around the three,

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Bq27542FuelGauge.hpp"
 
+#include <cerrno>
 #include <cstdint>
 #include <exception>
 #include <variant>
@@ -47,9 +48,10 @@ void Bq27542FuelGauge::UpdateResetPropertyValues(std::string_view lifetimeResetP
 }
 
 // In the three operations the lock is released before the failure is logged: a slow log must not
-// hold up the other threads.
+// hold up the other threads. Each begins with no error; `File` then sets errno.
 
 FuelGaugeStatus Bq27542FuelGauge::DoSet(FuelGaugeProperty property, PropertyValue value) {
+  errno = 0;
   try {
     const std::scoped_lock lock(mutex);
     return Writable(property, propertyMap).Set(std::move(value));
@@ -63,6 +65,7 @@ FuelGaugeStatus Bq27542FuelGauge::DoSet(FuelGaugeProperty property, PropertyValu
 
 std::pair<FuelGaugeStatus, PropertyValue> Bq27542FuelGauge::DoGet(FuelGaugeProperty property,
                                                                   PropertyValue value) {
+  errno = 0;
   if (property == FuelGaugeProperty::LifetimeDataResetValue) {
     // Without the lock, since the map does not change, and so that no slow bus holds it up.
     const auto entry = propertyMap.find(FuelGaugeProperty::LifetimeData);
@@ -81,6 +84,7 @@ std::pair<FuelGaugeStatus, PropertyValue> Bq27542FuelGauge::DoGet(FuelGaugePrope
 }
 
 FuelGaugeStatus Bq27542FuelGauge::DoReset(FuelGaugeProperty property) {
+  errno = 0;
   try {
     const std::scoped_lock lock(mutex);
     return Writable(property, propertyMap).Reset();

@@ -12,10 +12,13 @@
 #include <string>
 #include <string_view>
 
+#include "KeepErrno.hpp"
+
 namespace dral {
 
 /// An open file, closed with the object. Programs that other threads start do not inherit it. It throws
-/// nothing, and retries calls that a signal interrupts.
+/// nothing, and retries calls that a signal interrupts. Each operation leaves `errno` as `Error()` is, and
+/// the destructor leaves it alone.
 class File {
  public:
   /// @param flags open(2)'s; a missing file is not created
@@ -25,15 +28,11 @@ class File {
       descriptor = ::open(path.c_str(), flags | O_CLOEXEC, 0);
       error = descriptor < 0 ? errno : 0;
     } while (error == EINTR);
+    errno = error;  // not that of a call that was retried
   }
   ~File() {
-    if (descriptor >= 0) {
-      // A thread that is cancelled ends in close(2): in a destructor, and so would the whole process.
-      int before = 0;
-      ::pthread_setcancelstate(PTHREAD_CANCEL_DISABLE, &before);
-      ::close(descriptor);
-      ::pthread_setcancelstate(before, nullptr);
-    }
+    const KeepErrno keep;
+    Close();
   }
   File(const File&) = delete;
   File& operator=(const File&) = delete;
@@ -45,10 +44,30 @@ class File {
   /// @return how many were read
   std::size_t Read(std::span<char> bytes) { return Transfer(::read, bytes.data(), bytes.size()); }
 
-  /// Writes @p bytes, in one call if the file takes them all.
-  void Write(std::string_view bytes) { Transfer(::write, bytes.data(), bytes.size()); }
+  /// Writes @p bytes, in one call if the file takes them all, and closes the file: some tell only then
+  /// that they could not store them.
+  void Write(std::string_view bytes) {
+    Transfer(::write, bytes.data(), bytes.size());
+    const int closing = Close();
+    error = error != 0 ? error : closing;
+    errno = error;
+  }
 
  private:
+  // A thread that another one cancels is unwound out of close(2); out of a destructor, that would end the
+  // whole process. So the cancellation waits for the thread's next system call.
+  int Close() {
+    if (descriptor < 0) {
+      return 0;
+    }
+    int before = 0;
+    ::pthread_setcancelstate(PTHREAD_CANCEL_DISABLE, &before);
+    const int failed = ::close(descriptor) != 0 ? errno : 0;
+    ::pthread_setcancelstate(before, nullptr);
+    descriptor = -1;  // on Linux closed even then
+    return failed;
+  }
+
   template <typename Call, typename Byte>
   std::size_t Transfer(Call call, Byte* bytes, std::size_t size) {
     std::size_t done = 0;
@@ -58,6 +77,7 @@ class File {
       error = count < 0 && errno != EINTR ? errno : 0;
       done += static_cast<std::size_t>(std::max<ssize_t>(count, 0));
     }
+    errno = error;
     return done;
   }
 

@@ -4,6 +4,7 @@
 #include <fcntl.h>
 
 #include <Path.hpp>
+#include <cerrno>
 #include <concepts>
 #include <cstdint>
 #include <cstring>
@@ -49,6 +50,18 @@ struct WriteTo {
   }
 };
 
+// Whether there is a file; if not, errno says why. A platform's own library need not leave the error of its
+// stat(2).
+bool Exists(const std::string& location) {
+  std::unique_ptr<const PathIF> path = std::make_unique<Path>(location, nullptr);
+  errno = 0;
+  const bool exists = path->Exists();
+  const int error = errno != 0 ? errno : ENOENT;
+  path.reset();
+  errno = exists ? 0 : error;
+  return exists;
+}
+
 }  // namespace
 
 FuelGaugeStatus Writable::Set(PropertyValue value) const {
@@ -72,8 +85,7 @@ FuelGaugeStatus Writable::WriteData(bool useGivenValue, PropertyValue value) con
         << "FuelGaugeProperty:" << static_cast<std::uint32_t>(property) << "not settable";
     return FuelGaugeStatus::Failure;
   }
-  const std::unique_ptr<const PathIF> path = std::make_unique<Path>(info.location, nullptr);
-  if (!path->Exists()) {
+  if (!Exists(info.location)) {
     KESP_LOG("Writable", LogFailure) << "Writable::Set failed - file not found: " << info.location;
     return FuelGaugeStatus::FileError;
   }

@@ -11,14 +11,12 @@
 #include <span>
 #include <string>
 #include <string_view>
-
-#include "KeepErrno.hpp"
+#include <utility>
 
 namespace dral {
 
 /// An open file, closed with the object. Programs that other threads start do not inherit it. It throws
-/// nothing, and retries calls that a signal interrupts. Each operation leaves `errno` as `Error()` is, and
-/// the destructor leaves it alone.
+/// nothing, and retries calls that a signal interrupts. `errno`, if it was 0, then is as `Error()`.
 class File {
  public:
   /// @param flags open(2)'s; a missing file is not created
@@ -27,12 +25,12 @@ class File {
       // The mode spares a hardened C library its run-time check for a missing one.
       descriptor = ::open(path.c_str(), flags | O_CLOEXEC, 0);
       error = descriptor < 0 ? errno : 0;
-    } while (error == EINTR);
-    errno = error;  // not that of a call that was retried
+    } while (IsRetried());
   }
   ~File() {
-    const KeepErrno keep;
-    Close();
+    if (descriptor >= 0 && !Close()) {
+      errno = error;  // a read does not count the close's
+    }
   }
   File(const File&) = delete;
   File& operator=(const File&) = delete;
@@ -48,24 +46,31 @@ class File {
   /// that they could not store them.
   void Write(std::string_view bytes) {
     Transfer(::write, bytes.data(), bytes.size());
-    const int closing = Close();
-    error = error != 0 ? error : closing;
-    errno = error;
+    if (!Close()) {
+      error = error != 0 ? error : errno;
+      errno = error;
+    }
   }
 
  private:
+  // A call's error that is to be forgotten, since the call is made again.
+  bool IsRetried() {
+    if (error != EINTR) {
+      return false;
+    }
+    error = 0;
+    errno = 0;
+    return true;
+  }
+
   // A thread that another one cancels is unwound out of close(2); out of a destructor, that would end the
   // whole process. So the cancellation waits for the thread's next system call.
-  int Close() {
-    if (descriptor < 0) {
-      return 0;
-    }
+  bool Close() {
     int before = 0;
     ::pthread_setcancelstate(PTHREAD_CANCEL_DISABLE, &before);
-    const int failed = ::close(descriptor) != 0 ? errno : 0;
+    const bool closed = ::close(std::exchange(descriptor, -1)) == 0;  // on Linux even when it fails
     ::pthread_setcancelstate(before, nullptr);
-    descriptor = -1;  // on Linux closed even then
-    return failed;
+    return closed;
   }
 
   template <typename Call, typename Byte>
@@ -74,10 +79,10 @@ class File {
     ssize_t count = 1;
     while (count != 0 && done < size && error == 0) {
       count = call(descriptor, bytes + done, size - done);
-      error = count < 0 && errno != EINTR ? errno : 0;
+      error = count < 0 ? errno : 0;
+      IsRetried();
       done += static_cast<std::size_t>(std::max<ssize_t>(count, 0));
     }
-    errno = error;
     return done;
   }
 

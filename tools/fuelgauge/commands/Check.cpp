@@ -98,7 +98,7 @@ void PrintForPeople(const std::vector<Finding>& findings, const Readings& readin
     std::cout << "normal: " << energy << "\n";
   }
   for (const Reading& reading : readings) {
-    if (reading.MayBeMissing() && (energy.empty() || reading.cause.error != ENOENT)) {
+    if (reading.MayBeMissing() && (energy.empty() || reading.error != ENOENT)) {
       std::cout << "normal: " << reading.property->name << ": " << reading.Reason() << "\n";
     }
   }

@@ -60,6 +60,12 @@ ExitStatus Get(const Gauge& gauge, const GetOptions& options) {
   } else if (reading.Succeeded()) {
     std::visit(PrintBare{}, reading.value);
   }
+  if (reading.Succeeded() && type == Type::Uint) {
+    const std::string text = gauge.Read(property, Type::String).ForPeople();
+    if (text.find('-') == text.find_first_not_of(" \t\n\v\f\r")) {
+      Complain(options.property + ": as uint, '" + text + "' loses its sign");
+    }
+  }
   if (!reading.Succeeded()) {
     Complain(options.property + ": " + gauge.Reason(reading));
   }

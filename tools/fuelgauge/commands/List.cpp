@@ -29,7 +29,7 @@ ExitStatus List(const Gauge& gauge, bool json) {
   } else {
     const std::string_view energy = readings.EnergyRemark();
     for (const Reading& reading : readings) {
-      if (!energy.empty() && reading.cause.error == ENOENT) {
+      if (!energy.empty() && reading.error == ENOENT) {
         continue;
       }
       PrintRow(reading.property->name, reading.ForPeople(), Remark(reading));

@@ -3,6 +3,7 @@
 
 #include "output/Message.hpp"
 #include "output/Table.hpp"
+#include "readings/Errors.hpp"
 #include "readings/LifetimeField.hpp"
 
 namespace fuelgauge {
@@ -14,12 +15,13 @@ ExitStatus NotWritten(const Property& property, const std::string& reason, FuelG
   return ToExitStatus(status);
 }
 
-ExitStatus Refused(const Gauge& gauge, const Property& property, FuelGaugeStatus status) {
+ExitStatus Refused(const Gauge& gauge, const Property& property, FuelGaugeStatus status,
+                   int error) {
   if (status != FuelGaugeStatus::FileError) {
     return NotWritten(property, "it is read-only", status);
   }
   const std::string absence = gauge.Absence();
-  return NotWritten(property, absence.empty() ? WriteRefusal(gauge.File(property)) : absence);
+  return NotWritten(property, absence.empty() ? ErrorText(error) : absence);
 }
 
 ExitStatus Unreadable(const Gauge& gauge, const Reading& reading, std::string_view consequence) {
@@ -28,8 +30,12 @@ ExitStatus Unreadable(const Gauge& gauge, const Reading& reading, std::string_vi
   return ToExitStatus(reading.status);
 }
 
-ExitStatus ReadBack(const Gauge& gauge, const Property& property,
-                    const dral::LifetimeData& written) {
+ExitStatus ReadBack(const Gauge& gauge, const Property& property, const dral::LifetimeData& written,
+                    int error) {
+  const std::string name(property.name);
+  if (error != 0) {
+    Complain(name + ": the kernel refused the write: " + ErrorText(error));
+  }
   const Reading reading = gauge.Read(property);
   if (reading.Record() == nullptr) {
     return Unreadable(gauge, reading, "; whether the write was taken is not known");
@@ -46,7 +52,9 @@ ExitStatus ReadBack(const Gauge& gauge, const Property& property,
     differences += "; the reserved bytes differ";
   }
   if (!differences.empty()) {
-    Complain(std::string(property.name) + ": the gauge did not take the write" + differences);
+    Complain(name + ": the gauge did not take the write" + differences);
+  }
+  if (!differences.empty() || error != 0) {
     return ExitStatus::ReadBackDiffers;
   }
   PrintRow(property.name, "written, and read back the same", "");

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <cerrno>
 #include <memory>
 
 #include "commands/Commands.hpp"
@@ -15,12 +16,14 @@ ExitStatus Reset(const Gauge& gauge, const std::string& name) {
     return NotWritten(property, reason);
   }
   const RecordLock lock(gauge.File(property));
-  if (const auto status = gauge->Reset(property.id); status != dral::FuelGaugeStatus::Success) {
-    return Refused(gauge, property, status);
+  const dral::FuelGaugeStatus status = gauge->Reset(property.id);
+  const int error = errno;
+  if (status != dral::FuelGaugeStatus::Success) {
+    return Refused(gauge, property, status, error);
   }
-  const auto [status, written] =
-      gauge->Get<dral::LifetimeData>(dral::FuelGaugeProperty::LifetimeDataResetValue);
-  return ReadBack(gauge, property, written);
+  const auto written =
+      gauge->Get<dral::LifetimeData>(dral::FuelGaugeProperty::LifetimeDataResetValue).second;
+  return ReadBack(gauge, property, written, error);
 }
 
 }  // namespace

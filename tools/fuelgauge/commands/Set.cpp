@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <cerrno>
 #include <memory>
 #include <set>
 
@@ -22,7 +23,8 @@ struct SetOptions {
 ExitStatus Set(const Gauge& gauge, const SetOptions& options) {
   const Property& property = FindProperty(options.property);
   if (property.type != Type::Lifetime) {
-    return Refused(gauge, property, gauge->Set(property.id, options.values.front()));
+    const FuelGaugeStatus refused = gauge->Set(property.id, options.values.front());
+    return Refused(gauge, property, refused, errno);
   }
   dral::LifetimeData record;
   std::set<std::string> fields;
@@ -45,11 +47,10 @@ ExitStatus Set(const Gauge& gauge, const SetOptions& options) {
     Assign(record, value);
   }
   RefuseCrossed(record, fields);
-  if (const FuelGaugeStatus written = gauge->Set(property.id, record);
-      written != FuelGaugeStatus::Success) {
-    return Refused(gauge, property, written);
-  }
-  return ReadBack(gauge, property, record);
+  const FuelGaugeStatus written = gauge->Set(property.id, record);
+  const int error = errno;
+  return written == FuelGaugeStatus::Success ? ReadBack(gauge, property, record, error)
+                                             : Refused(gauge, property, written, error);
 }
 
 }  // namespace

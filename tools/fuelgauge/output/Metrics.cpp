@@ -9,6 +9,7 @@
 
 #include "output/MetricsText.hpp"
 #include "readings/Check.hpp"
+#include "readings/Errors.hpp"
 #include "readings/Words.hpp"
 
 namespace fuelgauge {
@@ -126,10 +127,10 @@ void AddInfo(MetricsText& text, const Readings& readings) {
 
 // The errno's name, or what was read instead of a value.
 std::string ErrorOf(const Reading& reading) {
-  if (reading.cause.error != 0) {
-    return ErrorName(reading.cause.error);
+  if (reading.error != 0) {
+    return ErrorName(reading.error);
   }
-  if (!reading.cause.unfit.empty()) {
+  if (!reading.refusal.empty()) {
     return "refused";
   }
   return reading.status == dral::FuelGaugeStatus::Failure ? "not understood" : "no data";

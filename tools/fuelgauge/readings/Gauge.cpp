@@ -5,10 +5,14 @@
 
 #include <Bq27542FuelGauge.hpp>
 #include <cerrno>
+#include <cstdint>
+#include <limits>
+#include <stdexcept>
 #include <string_view>
 #include <tuple>
 #include <utility>
 
+#include "readings/Errors.hpp"
 #include "readings/LifetimeFile.hpp"
 #include "readings/RegularFile.hpp"
 #include "readings/UsageError.hpp"
@@ -17,6 +21,20 @@ namespace fuelgauge {
 
 using dral::Bq27542FuelGauge;
 using dral::FuelGaugeStatus;
+
+namespace {
+
+// Whether the library would take it for one; what was not may have changed since.
+bool IsNumber(const std::string& text, Type type) {
+  try {
+    return type == Type::Uint ? std::stoull(text) <= std::numeric_limits<std::uint32_t>::max()
+                              : (std::stoi(text), true);
+  } catch (const std::logic_error&) {
+    return false;
+  }
+}
+
+}  // namespace
 
 Gauge::Gauge(const GaugeOptions& which)
     : folder(SupplyFolder(which.devices.empty() ? DefaultDevice : which.devices.front())),
@@ -31,32 +49,25 @@ Gauge::Gauge(const GaugeOptions& which)
 }
 
 Reading Gauge::Read(const Property& property, Type type) const {
-  const std::string path = File(property);
-  Cause cause;
-  cause.unfit = Unfit(path);
-  if (!cause.unfit.empty()) {  // the library would open it, and read it to its end
-    return {&property, FuelGaugeStatus::FileError, Hint(type), std::move(cause)};
+  Reading reading{&property, FuelGaugeStatus::FileError, Hint(type)};
+  reading.refusal = Unfit(File(property));
+  if (!reading.refusal.empty()) {  // the library would open it, and read it to its end
+    return reading;
   }
-  auto [status, value] = gauge->Get(property.id, Hint(type));
-  if (status == FuelGaugeStatus::Success || path.empty()) {
-    return {&property, status, std::move(value)};
+  std::tie(reading.status, reading.value) = gauge->Get(property.id, std::move(reading.value));
+  reading.error = errno;
+  if (reading.status != FuelGaugeStatus::Failure) {
+    return reading;
   }
-  cause = Cause::Of(path);
-  // It may have come back since. On a bus that fails now and then, the two have to agree.
-  constexpr int Tries = 3;
-  for (int again = 0; again < Tries && cause.error == 0 && status != FuelGaugeStatus::Success;
-       ++again) {
-    std::tie(status, value) = gauge->Get(property.id, Hint(type));
-    if (status != FuelGaugeStatus::Success) {
-      cause = Cause::Of(path);
-    }
+  if (reading.error != 0) {
+    reading.status = StatusOf(reading.error);
+    return reading;
   }
-  if (status != FuelGaugeStatus::Success) {
-    status = cause.Status(type == Type::Lifetime);
-  }
-  Reading reading{&property, status, std::move(value), std::move(cause)};
-  if (reading.CameBack()) {
-    reading.status = FuelGaugeStatus::NoData;
+  auto [status, text] = gauge->Get<std::string>(property.id);
+  if (status == FuelGaugeStatus::NoData && errno == 0) {
+    reading.status = status;
+  } else if (status == FuelGaugeStatus::Success && !IsNumber(text, type)) {
+    reading.text = std::move(text);
   }
   return reading;
 }

@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "readings/Reading.hpp"
 
-#include <algorithm>
 #include <cerrno>
-#include <charconv>
-#include <system_error>
 #include <variant>
+
+#include "readings/Errors.hpp"
 
 namespace fuelgauge {
 
@@ -26,29 +25,6 @@ std::string Shortened(std::string_view text) {
   }
   return std::string(text.substr(0, end)).append("...");
 }
-
-template <typename T>
-bool BeginsWith(std::string_view text) {
-  text.remove_prefix(std::min(text.find_first_not_of(" \t\n\v\f\r"), text.size()));
-  text.remove_prefix(text.starts_with('+') ? 1 : 0);
-  T number{};
-  return std::from_chars(text.data(), text.data() + text.size(), number).ec == std::errc();
-}
-
-// Whether a file's text is a value of the type that an alternative has.
-struct IsTextOf {
-  std::string_view text;
-
-  bool operator()(const std::string& /*type*/) const { return !text.empty(); }
-  bool operator()(const dral::LifetimeData& /*type*/) const {
-    return text.size() >= sizeof(dral::LifetimeData);
-  }
-  bool operator()(bool /*type*/) const { return BeginsWith<int>(text); }
-  template <typename T>
-  bool operator()(T /*type*/) const {
-    return BeginsWith<T>(text);
-  }
-};
 
 }  // namespace
 
@@ -87,47 +63,40 @@ std::string Reading::ForPeople() const {
 }
 
 std::string Reading::Reason() const {
-  if (!cause.unfit.empty()) {
-    return cause.unfit;
+  if (!refusal.empty()) {
+    return refusal;
   }
-  if (cause.error == ENODATA && property->id == TimeToEmpty) {
+  if (error == ENODATA && property->id == TimeToEmpty) {
     return "no estimate: the battery is not discharging, or its current is too small (ENODATA)";
   }
-  if (cause.error == ENOENT && property->id == LifetimeData) {
+  if (error == ENOENT && property->id == LifetimeData) {
     return "no such file, which only a vendor's driver offers (ENOENT)";
   }
-  if (cause.error == ENODEV && otherDriver) {
+  if (error == ENODEV && otherDriver) {
     return "its driver has no value now (ENODEV)";
   }
-  if (cause.error != 0) {
-    return ErrorText(cause.error);
-  }
-  if (cause.text.empty()) {
-    return "the file is empty";
-  }
-  if (CameBack()) {
-    return "the read failed, and the file could be read a moment later";
+  if (error != 0) {
+    return ErrorText(error);
   }
   if (std::holds_alternative<dral::LifetimeData>(value)) {
-    return "the file holds " + std::to_string(cause.text.size()) + " bytes, not a record of 32";
+    return "the file is too short for a record of 32 bytes";
   }
-  const bool isUnsigned = std::holds_alternative<unsigned int>(value);
-  return std::string("'")
-      .append(Shortened(cause.text))
-      .append(isUnsigned ? "' is not a whole number from 0 to 4294967295"
-                         : "' is not a whole number of 32 bits");
-}
-
-bool Reading::CameBack() const {
-  return !Succeeded() && std::visit(IsTextOf{cause.text}, value);
+  if (status == dral::FuelGaugeStatus::NoData) {
+    return "the file is empty";
+  }
+  const std::string number = std::holds_alternative<unsigned int>(value)
+                                 ? "whole number from 0 to 4294967295"
+                                 : "whole number of 32 bits";
+  return text.empty() ? "the file held no " + number
+                      : "'" + Shortened(text) + "' is not a " + number;
 }
 
 bool Reading::MayBeMissing() const {
   if (otherDriver) {  // ENODEV is how ACPI's says that it does not know
-    return cause.error == ENOENT || cause.error == ENODATA || cause.error == ENODEV;
+    return error == ENOENT || error == ENODATA || error == ENODEV;
   }
-  return (cause.error == ENOENT && property->optional) ||
-         (cause.error == ENODATA && property->id == TimeToEmpty);
+  return (error == ENOENT && property->optional) ||
+         (error == ENODATA && property->id == TimeToEmpty);
 }
 
 }  // namespace fuelgauge

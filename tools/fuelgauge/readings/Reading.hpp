@@ -7,7 +7,6 @@
 #include <string>
 #include <string_view>
 
-#include "readings/Cause.hpp"
 #include "readings/Property.hpp"
 
 namespace fuelgauge {
@@ -17,7 +16,9 @@ struct Reading {
   const Property* property;
   dral::FuelGaugeStatus status;
   dral::PropertyValue value;
-  Cause cause = {};          ///< when it was not read
+  int error = 0;             ///< errno after the read; 0 unless a system call failed
+  std::string refusal = {};  ///< why the file was not even opened, in words
+  std::string text = {};     ///< what the file holds, when that is no number
   bool otherDriver = false;  ///< one that may lack any file, and has other conventions
 
   bool Succeeded() const { return status == dral::FuelGaugeStatus::Success; }
@@ -37,9 +38,6 @@ struct Reading {
 
   /// @return why it was not read, in words for people
   std::string Reason() const;
-
-  /// @return whether it was not read although its file holds such a value: the bus fails now and then
-  bool CameBack() const;
 
   /// @return whether a gauge in order may fail to give this: a file that its driver may lack, an
   ///         estimate of the time to empty, or what another driver has not

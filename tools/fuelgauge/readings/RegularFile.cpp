@@ -8,8 +8,8 @@
 #include <array>
 #include <cerrno>
 
-#include "readings/Cause.hpp"
 #include "readings/Descriptor.hpp"
+#include "readings/Errors.hpp"
 #include "readings/UsageError.hpp"
 
 namespace fuelgauge {
@@ -29,9 +29,9 @@ std::string Unfit(const std::string& path) {
     return "it is not a regular file";
   }
   const auto size = static_cast<std::size_t>(status.st_size);
-  return size > MostBytes ? "it has " + std::to_string(size) + " bytes, more than " +
-                                std::to_string(MostBytes)
-                          : "";
+  return size > MostBytes
+             ? "it has " + std::to_string(size) + " bytes, more than " + std::to_string(MostBytes)
+             : "";
 }
 
 std::string ContentsOf(const std::string& path) {
@@ -39,8 +39,8 @@ std::string ContentsOf(const std::string& path) {
     throw UsageError(reason);
   }
   // Should a pipe have taken its place meanwhile, this does not wait for it.
-  const Descriptor file(Uninterrupted(
-      [&path] { return ::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC); }));
+  const Descriptor file(
+      Uninterrupted([&path] { return ::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC); }));
   std::string contents;
   std::array<char, 4096> page{};
   ssize_t count = file < 0 ? -1 : 1;

@@ -26,12 +26,12 @@ TEST(Reading, SaysWhyAValueIsMissingAndWhetherThatIsNormal) {
       {CycleCount, ENODATA, true, true, "the gauge has no value now (ENODATA)"},
       {Status, ENODEV, false, false, "the gauge has gone, or does not answer (ENODEV)"},
       {Status, ENODEV, true, true, "its driver has no value now (ENODEV)"},
-      {Status, EACCES, true, false, "no permission to read it (EACCES)"},
+      {Status, EACCES, true, false, "no permission (EACCES)"},
       {Status, ETIMEDOUT, false, false, "the gauge does not answer on its bus (ETIMEDOUT)"},
   };
   for (const auto& [id, error, otherDriver, normal, reason] : cases) {
     Reading reading{&Properties.at(static_cast<std::size_t>(id)), dral::FuelGaugeStatus::NoData, 0};
-    reading.cause.error = error;
+    reading.error = error;
     reading.otherDriver = otherDriver;
     EXPECT_EQ(reading.MayBeMissing(), normal) << reason;
     EXPECT_EQ(reading.Reason(), reason);

@@ -12,7 +12,7 @@
 #include "Target.hpp"
 #include "TemporaryFolder.hpp"
 #include "commands/Commands.hpp"
-#include "output/Csv.hpp"
+#include "output/CsvSink.hpp"
 #include "output/Json.hpp"
 
 using namespace fuelgauge;
@@ -70,25 +70,25 @@ void RequireMetrics(std::istringstream lines) {
 
 void Target(const std::string& input) {
   static const TemporaryFolder folder;
-  const GaugeOptions which{{folder.At("")}, ""};
-  static const auto files = dral::Bq27542FuelGauge::PropertyMapAt(which.devices.front());
+  const Request request{{folder.At("")}, ""};
+  static const auto files = dral::Bq27542FuelGauge::PropertyMapAt(folder.At(""));
   std::istringstream pieces(input);
   for (const Property& property : Properties) {
     std::string piece;
     std::getline(pieces, piece, '|');
     std::ofstream((*files)[property.id].location, std::ios::binary) << piece;
   }
-  const auto run = [&which](Action (*add)(CLI::App & parser), const char* options) {
+  const auto run = [&request](Action (*add)(CLI::App & parser), const char* options) {
     CLI::App parser;
     const Action action = add(parser);
     parser.parse(options);
-    return Printed([&] { action(which); });
+    return Printed([&] { action(request); });
   };
   run(AddList, "");
   Require(Json::parse(run(AddList, "--json")).size() == Properties.size() - 1);
   RequireMetrics(run(AddMetrics, ""));
-  const Readings readings = Gauge(which).ReadAll();
-  std::istringstream csv = Printed([&] { (PrintCsvHeader(), PrintCsvLine("now", readings)); });
+  const Readings readings = Gauge(request.One()).ReadAll();
+  std::istringstream csv = Printed([&] { (CsvSink().Begin(), CsvSink().Sample("now", readings)); });
   std::string header, line, more;
   std::getline(std::getline(csv, header), line);
   line = Unquoted(line, false);

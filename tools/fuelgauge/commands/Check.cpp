@@ -1,19 +1,18 @@
 // SPDX-License-Identifier: MIT
-#include "readings/Check.hpp"
-
 #include <algorithm>
 #include <cerrno>
 #include <iostream>
 #include <memory>
 #include <string_view>
-#include <vector>
 
 #include "commands/Commands.hpp"
+#include "gauge/Concat.hpp"
+#include "gauge/UsageError.hpp"
+#include "judging/Findings.hpp"
+#include "judging/Limit.hpp"
 #include "output/Json.hpp"
 #include "output/Message.hpp"
 #include "output/Text.hpp"
-#include "readings/Limit.hpp"
-#include "readings/UsageError.hpp"
 
 namespace fuelgauge {
 namespace {
@@ -39,30 +38,27 @@ std::string ValueForPeople(const Reading& reading, bool raw) {
 }
 
 // Such as "Status 'Discharging', CurrentNow 412 mA".
-std::string ValuesForPeople(const Evidence& evidence, const Readings& readings) {
+std::string ValuesForPeople(const Evidence& evidence) {
   std::string values;
-  const auto add = [&values](std::string_view name, std::string_view between,
-                             const std::string& value) {
-    values.append(values.empty() ? "" : ", ").append(name).append(between).append(value);
-  };
-  for (const auto id : evidence.properties) {
-    const Reading& reading = readings[id];
-    add(reading.property->name, reading.Succeeded() ? " " : ": ",
-        reading.Succeeded() ? ValueForPeople(reading, evidence.raw) : reading.Reason());
+  for (const Reading* reading : evidence.readings) {
+    values += Concat(
+        values.empty() ? "" : ", ", reading->property->name, reading->Succeeded() ? " " : ": ",
+        reading->Succeeded() ? ValueForPeople(*reading, evidence.raw) : reading->Reason());
   }
-  for (const LifetimeField* field : evidence.fields) {
-    add(field->name, " ", ForPeople(field->Value(*readings.Record()), field->unit));
+  for (const auto& [field, value] : evidence.fields) {
+    values += Concat(values.empty() ? "" : ", ", field->name, " ",
+                     ForPeople(value, field->quantity.unit));
   }
   return values;
 }
 
-Json ValuesToJson(const Evidence& evidence, const Readings& readings) {
+Json ValuesToJson(const Evidence& evidence) {
   Json values;
-  for (const auto id : evidence.properties) {
-    values[std::string(readings[id].property->name)] = ToJson(readings[id]);
+  for (const Reading* reading : evidence.readings) {
+    values[std::string(reading->property->name)] = ToJson(*reading);
   }
-  for (const LifetimeField* field : evidence.fields) {
-    values[std::string(field->name)] = field->Value(*readings.Record());
+  for (const auto& [field, value] : evidence.fields) {
+    values[std::string(field->name)] = value;
   }
   return values;
 }
@@ -73,7 +69,7 @@ void PrintJson(const std::vector<Finding>& findings, const Readings& readings) {
     answer["findings"].push_back({{"rule", rule->name},
                                   {"severity", NameOf(rule->severity)},
                                   {"reason", rule->reason},
-                                  {"values", ValuesToJson(evidence, readings)}});
+                                  {"values", ValuesToJson(evidence)}});
   }
   for (const Reading& reading : readings) {
     if (!reading.Succeeded()) {
@@ -91,7 +87,7 @@ void PrintForPeople(const std::vector<Finding>& findings, const Readings& readin
   }
   for (const auto& [rule, evidence] : findings) {
     std::cout << NameOf(rule->severity) << ": " << rule->name << ": " << rule->reason << " ("
-              << TerminalSafe(ValuesForPeople(evidence, readings)) << ")\n";
+              << TerminalSafe(ValuesForPeople(evidence)) << ")\n";
   }
   const std::string_view energy = readings.EnergyRemark();
   if (!energy.empty()) {
@@ -106,8 +102,8 @@ void PrintForPeople(const std::vector<Finding>& findings, const Readings& readin
 
 ExitStatus Check(const Gauge& gauge, const CheckOptions& options) {
   const Readings readings = gauge.ReadAll();
-  const std::vector<Finding> findings = Check(readings, options.limits);
-  const std::string type = gauge.SupplyType();
+  const std::vector<Finding> findings = Findings(readings, options.limits);
+  const std::string type = gauge.TheSupply().Type();
   const bool battery = type.empty() || type == "Battery";
   const bool judged =
       battery && readings.AnySucceeded() && (!findings.empty() || readings.AnyMeasured());
@@ -117,7 +113,7 @@ ExitStatus Check(const Gauge& gauge, const CheckOptions& options) {
     PrintForPeople(findings, readings);
   }
   if (!battery) {
-    Complain("'" + gauge.SupplyName() + "' is no battery: its type is '" + type + "'");
+    Complain(Concat("'", gauge.TheSupply().Name(), "' is no battery: its type is '", type, "'"));
     return ExitStatus::FileError;
   }
   if (!judged) {
@@ -132,14 +128,14 @@ ExitStatus Check(const Gauge& gauge, const CheckOptions& options) {
 }
 
 void AddLimit(CLI::App& parser, const std::shared_ptr<CheckOptions>& options, const char* name,
-              Bound bound, const char* description) {
+              Bound bound, const std::string& description) {
   const auto add = [options, name, bound](const std::vector<std::string>& texts) {
     try {
       for (const std::string& text : texts) {
         options->limits.push_back(LimitOf(bound, text));
       }
     } catch (const UsageError& error) {
-      throw CLI::ValidationError(name, error.what());
+      throw CLI::ValidationError(name, error.Text());
     }
   };
   parser.add_option_function<std::vector<std::string>>(name, add, description)
@@ -158,10 +154,11 @@ Action AddCheck(CLI::App& parser) {
       ->type_name("LEVEL")
       ->check(CLI::IsMember(Severities).description(""));
   AddLimit(parser, options, "--min", Bound::Minimum,
-           "Error if below NUMBER, in the kernel's unit, or unreadable; repeatable");
+           "Error if below NUMBER, in the kernel's unit, or unreadable; repeatable; PROPERTY: " +
+               PropertyNames([](const Property& each) { return each.type == Type::Int; }));
   AddLimit(parser, options, "--max", Bound::Maximum,
            "Error if above NUMBER, or unreadable; repeatable");
-  return [options](const GaugeOptions& which) { return Check(Gauge(which), *options); };
+  return [options](const Request& request) { return Check(Gauge(request.One()), *options); };
 }
 
 }  // namespace fuelgauge

@@ -3,6 +3,7 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
+#include <array>
 #include <cstdlib>
 #include <exception>
 #include <iostream>
@@ -12,13 +13,32 @@
 #include <utility>
 #include <vector>
 
+#include "commands/CommandFailure.hpp"
 #include "commands/Commands.hpp"
-#include "commands/RecordLock.hpp"
+#include "commands/NotEmpty.hpp"
+#include "gauge/Concat.hpp"
+#include "gauge/UsageError.hpp"
 #include "output/Message.hpp"
-#include "readings/UsageError.hpp"
 
 namespace fuelgauge {
 namespace {
+
+struct Command {
+  const char* name;
+  const char* description;
+  Action (*add)(CLI::App& parser);
+};
+
+constexpr auto Commands = std::to_array<Command>({
+    {"list", "Show every property", AddList},
+    {"get", "Print one property's bare value", AddGet},
+    {"set", "Write the lifetime record, and read it back", AddSet},
+    {"reset", "Write the lifetime record's reset value, and read it back", AddReset},
+    {"watch", "Show samples until Ctrl-C", AddWatch},
+    {"metrics", "Print metrics for Prometheus", AddMetrics},
+    {"check", "Check whether the gauge's values make sense", AddCheck},
+    {"devices", "List the kernel's batteries", AddDevices},
+});
 
 // The words of the command line, the last one first, as CLI11 wants them. Behind "--device=" it would
 // take the next word for the value, and "[a=1,b=2]" for two words.
@@ -28,7 +48,7 @@ std::vector<std::string> Words(int argc, char** argv) {
     std::string word = argv[i];
     const bool value = std::string_view(argv[i - 1]).starts_with("--");
     if (!value && word.starts_with('[') && word.ends_with(']')) {
-      throw UsageError("not expected: '" + word + "'; 'fuelgauge --help' shows the usage");
+      throw UsageError(Concat("not expected: '", word, "'; 'fuelgauge --help' shows the usage"));
     }
     if (word.starts_with("--") && word.ends_with("=")) {
       words.emplace_back();
@@ -59,7 +79,7 @@ std::string Explain(const CLI::ParseError& error, const CLI::App& app,
       (is(CLI::ExitCodes::RequiredError) && !remaining.empty())) {
     text = "not expected:";
     for (const std::string& word : remaining) {
-      text.append(" '").append(AsGiven(word, words)).append("'");
+      text += Concat(" '", AsGiven(word, words), "'");
     }
   }
   const auto commands = app.get_subcommands();
@@ -69,20 +89,20 @@ std::string Explain(const CLI::ParseError& error, const CLI::App& app,
 }
 
 ExitStatus Run(int argc, char** argv) {
-  GaugeOptions which;
+  Request request;
   bool verbose = false;
   CLI::App app("Reads, writes and resets the properties of a BQ27542 battery fuel gauge.",
                "fuelgauge");
   app.require_subcommand(0, 1);  // none is refused below: CLI11 would not name a wrong word
   app.fallthrough();             // the options below may stand behind the command as well
   app.set_version_flag("--version", "fuelgauge " KESP_VERSION);
-  app.add_option("--device", which.devices,
-                 std::string("A supply's name in ") + SupplyClass + ", or its folder; default " +
-                     DefaultDevice)
+  app.add_option("--device", request.devices,
+                 Concat("A supply's name in ", SupplyClass, ", or its folder; default ",
+                        GaugeOptions().device))
       ->type_name("NAME|DIR")
       ->allow_extra_args(false)
       ->check(NotEmpty);
-  app.add_option("--lifetime-file", which.lifetimeFile,
+  app.add_option("--lifetime-file", request.lifetimeFile,
                  "Override fields of the lifetime record's reset value")
       ->type_name("FILE")
       ->check(NotEmpty);
@@ -111,10 +131,22 @@ ExitStatus Run(int argc, char** argv) {
   // The tool says itself what failed. The library's log, where the logger takes its level from the
   // environment, is for those who ask for it.
   ::setenv("KESP_LOG_LEVEL", verbose ? "8" : "0", verbose ? 1 : 0);
-  return action(which);
+  return action(request);
 }
 
 }  // namespace
+
+GaugeOptions Request::One() const {
+  if (devices.size() > 1) {
+    throw UsageError("--device: 'metrics' alone takes more than one");
+  }
+  GaugeOptions which;
+  which.lifetimeFile = lifetimeFile;
+  if (!devices.empty()) {
+    which.device = devices.front();
+  }
+  return which;
+}
 
 ExitStatus RunCommandLine(int argc, char** argv) {
   try {
@@ -122,9 +154,9 @@ ExitStatus RunCommandLine(int argc, char** argv) {
   } catch (const UsageError& error) {
     Complain(error.Text());
     return ExitStatus::Usage;
-  } catch (const RecordBusy& error) {
+  } catch (const CommandFailure& error) {
     Complain(error.what());
-    return ExitStatus::Busy;
+    return error.status;
   } catch (const std::bad_alloc&) {
     std::cerr << "fuelgauge: out of memory\n";  // needs none
     return ExitStatus::Software;

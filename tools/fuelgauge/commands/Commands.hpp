@@ -7,30 +7,25 @@
 #include <vector>
 
 #include "commands/ExitStatus.hpp"
-#include "readings/Gauge.hpp"
+#include "gauge/Gauge.hpp"
 
 namespace fuelgauge {
 
-/// Carries a command out on the gauge that the options before it name: writes the answer to standard
-/// output, and to standard error what went wrong. Throws UsageError.
-using Action = std::function<ExitStatus(const GaugeOptions& which)>;
+/// What the options that all commands have name.
+struct Request {
+  std::vector<std::string> devices;  ///< none: the device's own gauge
+  std::string lifetimeFile;
 
-/// One of the tool's commands.
-struct Command {
-  const char* name;
-  const char* description;
-  /// Adds the command's own options to its @p parser, and returns what it does with them.
-  Action (*add)(CLI::App& parser);
+  /// @throws UsageError when there are several devices
+  GaugeOptions One() const;
 };
 
-/// All of them. To add one is to add its file, its function here and its line in the table.
-extern const std::vector<Command> Commands;
+/// Carries a command out: writes the answer to standard output, and to standard error what went wrong. Throws
+/// UsageError.
+using Action = std::function<ExitStatus(const Request& request)>;
 
-/// Refuses an empty name, as from a script's unset variable: it must not mean the real gauge, or no file.
-inline std::string NotEmpty(const std::string& name) {
-  return name.empty() ? "the name is empty" : "";
-}
-
+// Each adds the command's own options to its parser, and returns what it does with them. To add a command
+// is to add its file, its function here and its row in CommandLine.cpp.
 Action AddList(CLI::App& parser);
 Action AddGet(CLI::App& parser);
 Action AddSet(CLI::App& parser);

@@ -2,12 +2,11 @@
 #include <memory>
 
 #include "commands/Commands.hpp"
+#include "gauge/UsageError.hpp"
 #include "output/Json.hpp"
 #include "output/Message.hpp"
 #include "output/Table.hpp"
 #include "output/Text.hpp"
-#include "readings/Supplies.hpp"
-#include "readings/UsageError.hpp"
 
 namespace fuelgauge {
 namespace {
@@ -16,8 +15,9 @@ using enum dral::FuelGaugeProperty;
 
 ExitStatus Devices(bool json) {
   Json answer = Json::object();
-  for (const std::string& name : Batteries()) {
-    const Readings readings = Gauge({{name}, ""}).ReadAll();
+  for (const Supply& supply : Batteries()) {
+    const std::string name = supply.Name();
+    const Readings readings = Gauge({name}).ReadAll();
     for (const auto id : {Name, Status, StateOfCharge}) {
       answer[name][std::string(readings[id].property->name)] = ToJson(readings[id]);
     }
@@ -41,8 +41,8 @@ ExitStatus Devices(bool json) {
 Action AddDevices(CLI::App& parser) {
   const auto json = std::make_shared<bool>();
   parser.add_flag("--json", *json, "Answer in JSON");
-  return [json](const GaugeOptions& which) {
-    if (!which.devices.empty() || !which.lifetimeFile.empty()) {
+  return [json](const Request& request) {
+    if (!request.devices.empty() || !request.lifetimeFile.empty()) {
       throw UsageError(
           "'devices' lists all batteries: it takes no --device and no --lifetime-file");
     }

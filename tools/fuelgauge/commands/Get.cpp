@@ -5,11 +5,12 @@
 #include <variant>
 
 #include "commands/Commands.hpp"
+#include "gauge/Concat.hpp"
+#include "gauge/LifetimeField.hpp"
+#include "gauge/UsageError.hpp"
 #include "output/Json.hpp"
 #include "output/Message.hpp"
 #include "output/Text.hpp"
-#include "readings/LifetimeField.hpp"
-#include "readings/UsageError.hpp"
 
 namespace fuelgauge {
 namespace {
@@ -24,14 +25,6 @@ struct GetOptions {
   std::string type;
   bool json = false;
 };
-
-std::string Names() {
-  std::string names;
-  for (const Property& property : Properties) {
-    names.append(names.empty() ? "" : ", ").append(property.name);
-  }
-  return names;
-}
 
 // Prints the bare value, for scripts.
 struct PrintBare {
@@ -63,11 +56,11 @@ ExitStatus Get(const Gauge& gauge, const GetOptions& options) {
   if (reading.Succeeded() && type == Type::Uint) {
     const std::string text = gauge.Read(property, Type::String).ForPeople();
     if (text.find('-') == text.find_first_not_of(" \t\n\v\f\r")) {
-      Complain(options.property + ": as uint, '" + text + "' loses its sign");
+      Complain(Concat(property.name, ": as uint, '", text, "' loses its sign"));
     }
   }
   if (!reading.Succeeded()) {
-    Complain(options.property + ": " + gauge.Reason(reading));
+    Complain(Concat(property.name, ": ", gauge.Reason(reading)));
   }
   return ToExitStatus(reading.status);
 }
@@ -76,12 +69,15 @@ ExitStatus Get(const Gauge& gauge, const GetOptions& options) {
 
 Action AddGet(CLI::App& parser) {
   const auto options = std::make_shared<GetOptions>();
-  parser.add_option("PROPERTY", options->property, "One of " + Names())->required();
+  parser
+      .add_option("PROPERTY", options->property,
+                  "One of " + PropertyNames([](const Property&) { return true; }))
+      ->required();
   parser.add_option("--as", options->type, "Read it as string, int, uint, bool or lifetime")
       ->type_name("TYPE")
       ->check(CLI::IsMember(Types).description(""));
   parser.add_flag("--json", options->json, "Answer in JSON");
-  return [options](const GaugeOptions& which) { return Get(Gauge(which), *options); };
+  return [options](const Request& request) { return Get(Gauge(request.One()), *options); };
 }
 
 }  // namespace fuelgauge

@@ -53,7 +53,7 @@ ExitStatus List(const Gauge& gauge, bool json) {
 Action AddList(CLI::App& parser) {
   const auto json = std::make_shared<bool>();
   parser.add_flag("--json", *json, "Answer in JSON");
-  return [json](const GaugeOptions& which) { return List(Gauge(which), *json); };
+  return [json](const Request& request) { return List(Gauge(request.One()), *json); };
 }
 
 }  // namespace fuelgauge

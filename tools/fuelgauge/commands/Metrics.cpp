@@ -1,17 +1,16 @@
 // SPDX-License-Identifier: MIT
-#include "output/Metrics.hpp"
-
 #include <iostream>
-#include <map>
 #include <memory>
 #include <optional>
 
 #include "commands/Commands.hpp"
+#include "commands/NotEmpty.hpp"
+#include "gauge/Concat.hpp"
+#include "gauge/UsageError.hpp"
+#include "output/Exposition.hpp"
 #include "output/Message.hpp"
 #include "output/OutputFile.hpp"
 #include "output/Text.hpp"
-#include "readings/Supplies.hpp"
-#include "readings/UsageError.hpp"
 
 namespace fuelgauge {
 namespace {
@@ -21,35 +20,40 @@ struct MetricsOptions {
   std::optional<std::string> output;
 };
 
-std::vector<GaugeOptions> Gauges(const GaugeOptions& which, bool all) {
-  if (!all && which.devices.empty()) {
-    return {which};
+std::vector<GaugeOptions> Gauges(const Request& request, bool all) {
+  if (!all && request.devices.empty()) {
+    return {request.One()};
   }
   std::vector<GaugeOptions> gauges;
-  for (const std::string& device : all ? Batteries() : which.devices) {
-    gauges.push_back({{device}, which.lifetimeFile});
+  for (const std::string& device : request.devices) {
+    gauges.push_back({device, request.lifetimeFile});
+  }
+  for (const Supply& supply : all ? Batteries() : std::vector<Supply>()) {
+    gauges.push_back({supply.Name(), request.lifetimeFile});
   }
   return gauges;
 }
 
-ExitStatus Metrics(const GaugeOptions& which, const MetricsOptions& options) {
-  if (options.all && !which.devices.empty()) {
+ExitStatus Metrics(const Request& request, const MetricsOptions& options) {
+  if (options.all && !request.devices.empty()) {
     throw UsageError("--all cannot be combined with --device");
   }
   ExitStatus status = ExitStatus::Success;
-  std::map<std::string, Readings> supplies;
-  for (const GaugeOptions& each : Gauges(which, options.all)) {
-    const Gauge gauge(each);
-    const std::string name = TerminalSafe(gauge.SupplyName());  // as the label has it
-    if (!supplies.emplace(name, gauge.ReadAll()).second) {
-      if (!options.all) {
-        throw UsageError("--device: two have the name '" + name + "'");
-      }
-      Complain("'" + name + "' was left out: another supply has the same name");
+  Judged supplies;
+  for (const GaugeOptions& which : Gauges(request, options.all)) {
+    const Gauge gauge(which);
+    const std::string name = TerminalSafe(gauge.TheSupply().Name());  // as the label has it
+    const auto [place, isNew] = supplies.try_emplace(name, gauge.ReadAll());
+    if (isNew) {
+      place->second.findings = Findings(place->second.readings);
+    } else if (options.all) {
+      Complain(Concat("'", name, "' was left out: another supply has the same name"));
       status = ExitStatus::Failure;
+    } else {
+      throw UsageError(Concat("--device: two have the name '", name, "'"));
     }
   }
-  const std::string text = MetricsOf(supplies);
+  const std::string text = Exposition(supplies);
   try {
     if (options.output) {
       PutInPlace(*options.output, text);
@@ -77,7 +81,7 @@ Action AddMetrics(CLI::App& parser) {
                   "Replace FILE atomically instead of printing; no link is followed")
       ->type_name("FILE")
       ->check(NotEmpty);
-  return [options](const GaugeOptions& which) { return Metrics(which, *options); };
+  return [options](const Request& request) { return Metrics(request, *options); };
 }
 
 }  // namespace fuelgauge

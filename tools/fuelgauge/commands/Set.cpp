@@ -3,12 +3,13 @@
 #include <memory>
 #include <set>
 
+#include "commands/CommandFailure.hpp"
 #include "commands/Commands.hpp"
-#include "commands/ReadBack.hpp"
 #include "commands/RecordLock.hpp"
-#include "readings/LifetimeField.hpp"
-#include "readings/RegularFile.hpp"
-#include "readings/UsageError.hpp"
+#include "commands/WriteOutcome.hpp"
+#include "gauge/Concat.hpp"
+#include "gauge/LifetimeField.hpp"
+#include "gauge/UsageError.hpp"
 
 namespace fuelgauge {
 namespace {
@@ -22,35 +23,31 @@ struct SetOptions {
 
 ExitStatus Set(const Gauge& gauge, const SetOptions& options) {
   const Property& property = FindProperty(options.property);
-  if (property.type != Type::Lifetime) {
-    const FuelGaugeStatus refused = gauge->Set(property.id, options.values.front());
-    return Refused(gauge, property, refused, errno);
-  }
   dral::LifetimeData record;
+  if (property.type != Type::Lifetime) {
+    const FuelGaugeStatus status = gauge->Set(property.id, options.values.front());
+    return WriteOutcome(gauge, property, record, status, errno);
+  }
   std::set<std::string> fields;
   for (const std::string& value : options.values) {  // all are judged before the gauge is touched
     Assign(record, value);
     if (!fields.insert(value.substr(0, value.find('='))).second) {
-      throw UsageError("'" + value + "': the field is named twice");
+      throw UsageError(Concat("'", value, "': the field is named twice"));
     }
   }
-  if (const std::string reason = Unfit(gauge.File(property)); !reason.empty()) {
-    return NotWritten(property, reason);
-  }
-  const RecordLock lock(gauge.File(property));
+  const RecordLock lock(gauge, property);
   const Reading held = gauge.Read(property);
   if (held.Record() == nullptr) {
-    return Unreadable(gauge, held, "; nothing was written");
+    throw CommandFailure(ToExitStatus(held.status),
+                         Concat(property.name, ": not written: ", gauge.Reason(held)));
   }
   record = *held.Record();
   for (const std::string& value : options.values) {
     Assign(record, value);
   }
   RefuseCrossed(record, fields);
-  const FuelGaugeStatus written = gauge->Set(property.id, record);
-  const int error = errno;
-  return written == FuelGaugeStatus::Success ? ReadBack(gauge, property, record, error)
-                                             : Refused(gauge, property, written, error);
+  const FuelGaugeStatus status = gauge->Set(property.id, record);
+  return WriteOutcome(gauge, property, record, status, errno);
 }
 
 }  // namespace
@@ -60,7 +57,7 @@ Action AddSet(CLI::App& parser) {
   parser.add_option("PROPERTY", options->property, "LifetimeData")->required();
   parser.add_option("VALUE", options->values, "FIELD=VALUE; other fields keep their values")
       ->required();
-  return [options](const GaugeOptions& which) { return Set(Gauge(which), *options); };
+  return [options](const Request& request) { return Set(Gauge(request.One()), *options); };
 }
 
 }  // namespace fuelgauge

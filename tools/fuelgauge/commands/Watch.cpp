@@ -3,29 +3,24 @@
 
 #include <algorithm>
 #include <chrono>
-#include <csignal>
 #include <cstdint>
 #include <cstdlib>
 #include <iostream>
 #include <locale>
 #include <memory>
-#include <optional>
 #include <sstream>
 #include <string_view>
 
 #include "commands/Commands.hpp"
-#include "commands/Presence.hpp"
-#include "commands/WatchSignals.hpp"
-#include "output/Csv.hpp"
-#include "output/Json.hpp"
-#include "output/Message.hpp"
+#include "gauge/Concat.hpp"
+#include "gauge/Number.hpp"
+#include "output/CsvSink.hpp"
+#include "output/JsonSink.hpp"
+#include "output/LineSink.hpp"
 #include "output/Screen.hpp"
-#include "output/Text.hpp"
 #include "output/Timestamp.hpp"
-#include "readings/Number.hpp"
-#include "readings/Summary.hpp"
+#include "watching/Wait.hpp"
 
-using dral::FuelGaugeProperty;
 using std::chrono::steady_clock;
 
 namespace fuelgauge {
@@ -46,7 +41,7 @@ double Seconds(const std::string& text) {
   if (!(stream >> std::noskipws >> seconds) || stream.peek() != std::istream::traits_type::eof() ||
       seconds < 0.1 || seconds > 86400) {
     throw CLI::ValidationError("--interval",
-                               "'" + text + "' is not a number of seconds from 0.1 to 86400");
+                               Concat("'", text, "' is not a number of seconds from 0.1 to 86400"));
   }
   return seconds;
 }
@@ -55,30 +50,9 @@ std::uint64_t Count(const std::string& text) {
   const auto number = WholeNumber<std::uint64_t>(text);
   if (!number || *number == 0) {
     throw CLI::ValidationError(
-        "--count", "'" + text + "' is not a whole number from 1 to 18446744073709551615");
+        "--count", Concat("'", text, "' is not a whole number from 1 to 18446744073709551615"));
   }
   return *number;
-}
-
-void PrintLine(const std::string& time, const Readings& readings) {
-  std::cout << time;
-  for (const auto id :
-       {FuelGaugeProperty::Status, FuelGaugeProperty::StateOfCharge, FuelGaugeProperty::VoltageNow,
-        FuelGaugeProperty::CurrentNow, FuelGaugeProperty::Temperature}) {
-    std::cout << "  " << TerminalSafe(readings[id].ForPeople());
-  }
-  std::cout << "\n";
-}
-
-// The record changes over months: it is no matter for a watch.
-void PrintJsonLine(const std::string& time, const Readings& readings) {
-  Json line = {{"time", time}};
-  for (const Reading& reading : readings) {
-    if (reading.property->type != Type::Lifetime) {
-      line[std::string(reading.property->name)] = ToJson(reading);
-    }
-  }
-  PrintCompact(line);
 }
 
 // What shows control sequences as they are, such as an editor's shell, gets lines.
@@ -88,52 +62,65 @@ bool DrawsInPlace() {
          std::string_view(terminal) != "dumb";
 }
 
-void PrintSample(const WatchOptions& options, const std::string& time, const Readings& readings) {
+std::unique_ptr<Sink> SinkFor(const WatchOptions& options) {
   if (options.csv) {
-    PrintCsvLine(time, readings);
-  } else if (options.json) {
-    PrintJsonLine(time, readings);
-  } else {
-    PrintLine(time, readings);
+    return std::make_unique<CsvSink>();
   }
+  if (options.json) {
+    return std::make_unique<JsonSink>();
+  }
+  if (DrawsInPlace()) {
+    return std::make_unique<Screen>();
+  }
+  return std::make_unique<LineSink>();
 }
 
-// Lines for programs end without: who reads them has the samples.
-void Tell(const Summary& summary, const WatchOptions& options) {
-  if (!options.csv && !options.json) {
-    for (const std::string& line : summary.Lines()) {
-      Complain(line);
+// Tells once that the gauge is gone, and once that it is back.
+class Presence {
+ public:
+  void Tell(const Gauge& gauge, const Readings& readings, const std::string& time, Sink& sink) {
+    const bool nowThere = readings.AnySucceeded();
+    if (nowThere && !there) {
+      sink.Notice("gauge found at " + time);
+    } else if (!nowThere && there) {
+      sink.Notice(gauge.Missing(readings) + (lastSeen.empty() ? "" : "; last read at " + lastSeen));
     }
+    there = nowThere;
+    lastSeen = nowThere ? time : lastSeen;
   }
-}
+
+  bool Ever() const { return !lastSeen.empty(); }
+
+ private:
+  bool there = true;
+  std::string lastSeen;
+};
 
 // @return whether the watch goes on
-bool WaitUntil(steady_clock::time_point next, const WatchSignals& signals,
-               std::optional<Screen>& screen) {
-  while (const int signal = signals.CameBefore(next)) {
-    if (signal == SIGINT || signal == SIGTERM) {
-      std::cout << (::isatty(STDOUT_FILENO) != 0 ? "\n" : "") << std::flush;  // behind "^C"
-      return false;
-    }
-    if (screen && signal == SIGCONT) {
-      screen->Leave();
-    }
-    if (screen) {
-      screen->Redraw();
+bool WaitUntil(steady_clock::time_point next, const Wait& wait, Sink& sink) {
+  while (true) {
+    switch (wait.Until(next)) {
+      case Wait::Cause::Time:
+        return true;
+      case Wait::Cause::Signal:
+        std::cout << (::isatty(STDOUT_FILENO) != 0 ? "\n" : "") << std::flush;  // behind "^C"
+        return false;
+      case Wait::Cause::Reader:
+        return false;
+      case Wait::Cause::Window:
+        sink.Redraw(false);
+        break;
+      case Wait::Cause::Shell:
+        sink.Redraw(true);
+        break;
     }
   }
-  return true;
 }
 
 ExitStatus Watch(const Gauge& gauge, const WatchOptions& options) {
-  const WatchSignals signals;
-  std::optional<Screen> screen;
-  if (options.csv) {
-    PrintCsvHeader();
-    std::cout.flush();  // the first read may take its time
-  } else if (!options.json && DrawsInPlace()) {
-    screen.emplace();
-  }
+  const Wait wait;
+  const std::unique_ptr<Sink> sink = SinkFor(options);
+  sink->Begin();
   const Summary::Seconds seconds(options.intervalSeconds);
   const auto interval = std::chrono::duration_cast<steady_clock::duration>(seconds);
   Summary summary(seconds);
@@ -144,22 +131,18 @@ ExitStatus Watch(const Gauge& gauge, const WatchOptions& options) {
     const Summary::Seconds moment = SinceStart();
     const Readings readings = gauge.ReadAll();
     summary.Add(moment, readings);
-    if (presence.Tell(gauge, readings, time) && screen) {
-      screen->Leave();
-    }
+    presence.Tell(gauge, readings, time, *sink);
     const ExitStatus status = presence.Ever() ? ExitStatus::Success : ExitStatus::FileError;
-    WatchSignals::EndWith(status);
-    if (screen) {
-      screen->Draw(time, readings);
-    } else if (readings.AnySucceeded()) {
-      PrintSample(options, time, readings);
-    }
+    Wait::EndWith(status);
+    sink->Sample(time, readings);
     next = std::max(next + interval, steady_clock::now());  // a slow gauge is not hurried after
-    if (!OutputIsOut() || ReaderIsGone()) {
+    if (!OutputIsOut()) {
       return status;
     }
-    if (taken == options.count || !WaitUntil(next, signals, screen)) {
-      Tell(summary, options);
+    if (taken == options.count || !WaitUntil(next, wait, *sink)) {
+      if (!ReaderIsGone()) {
+        sink->End(summary);
+      }
       return status;
     }
   }
@@ -182,7 +165,7 @@ Action AddWatch(CLI::App& parser) {
   CLI::Option* const csv =
       parser.add_flag("--csv", options->csv, "A header, then one line of raw numbers per sample");
   parser.add_flag("--json", options->json, "One line of JSON per sample")->excludes(csv);
-  return [options](const GaugeOptions& which) { return Watch(Gauge(which), *options); };
+  return [options](const Request& request) { return Watch(Gauge(request.One()), *options); };
 }
 
 }  // namespace fuelgauge

@@ -6,8 +6,8 @@
 #include <sstream>
 #include <variant>
 
+#include "gauge/LifetimeField.hpp"
 #include "output/Text.hpp"
-#include "readings/LifetimeField.hpp"
 
 namespace fuelgauge {
 
@@ -51,10 +51,6 @@ void Print(const Json& json) {
   for (std::string line; std::getline(lines, line);) {
     std::cout << TerminalSafe(line) << "\n";  // JSON itself escapes controls, but for those of C1
   }
-}
-
-void PrintCompact(const Json& json) {
-  std::cout << TerminalSafe(json.dump(-1, ' ', false, Json::error_handler_t::replace)) << "\n";
 }
 
 }  // namespace fuelgauge

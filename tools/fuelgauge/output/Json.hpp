@@ -3,7 +3,7 @@
 
 #include <nlohmann/json.hpp>
 
-#include "readings/Readings.hpp"
+#include "gauge/Readings.hpp"
 
 namespace fuelgauge {
 
@@ -19,8 +19,5 @@ Json ToJson(const Readings& readings);
 
 /// Prints @p json, readable and with a newline; bytes that are not UTF-8 are replaced.
 void Print(const Json& json);
-
-/// The same on one line.
-void PrintCompact(const Json& json);
 
 }  // namespace fuelgauge

@@ -2,8 +2,8 @@
 #include "output/MetricsText.hpp"
 
 #include <algorithm>
-#include <cstdlib>
 
+#include "gauge/Concat.hpp"
 #include "output/Text.hpp"
 
 namespace fuelgauge {
@@ -13,59 +13,46 @@ namespace {
 std::string Quoted(const std::string& value) {
   std::string quoted = "\"";
   for (const char byte : TerminalSafe(value)) {
-    if (byte == '\\' || byte == '"') {
-      quoted.append(1, '\\').append(1, byte);
-    } else {
-      quoted.append(1, byte);
-    }
+    quoted.append(byte == '\\' || byte == '"' ? 1 : 0, '\\').append(1, byte);
   }
   return quoted.append("\"");
 }
 
-std::string Decimal(std::int64_t number, int decimals) {
-  std::string digits = std::to_string(std::abs(number));
-  if (decimals > 0) {
-    const auto least = static_cast<std::size_t>(decimals) + 1;
-    digits.insert(0, least - std::min(least, digits.size()), '0');
-    digits.insert(digits.size() - static_cast<std::size_t>(decimals), 1, '.');
+std::string WithoutTrailingZeros(std::string digits) {
+  if (digits.find('.') != std::string::npos) {
     digits.erase(digits.find_last_not_of('0') + 1);
-    if (digits.back() == '.') {
-      digits.pop_back();
-    }
+    digits.erase(digits.find_last_not_of('.') + 1);
   }
-  return number < 0 ? digits.insert(0, 1, '-') : digits;
+  return digits;
 }
 
 }  // namespace
 
-void MetricsText::Family(std::string_view name, std::string_view help) {
-  const std::string full = "fuelgauge_" + std::string(name);
+void MetricsText::Family(const Metric& metric) {
+  const std::string name = Concat("fuelgauge_", metric.name);
   const auto found = std::find_if(families.begin(), families.end(),
-                                  [&full](const Block& each) { return each.name == full; });
-  if (found != families.end()) {
-    family = &*found;
-    return;
+                                  [&name](const Block& each) { return each.name == name; });
+  family = static_cast<std::size_t>(found - families.begin());
+  if (found == families.end()) {
+    families.push_back({name, static_cast<std::size_t>(metric.decimals),
+                        Concat("# HELP ", name, " ", metric.help, "\n# TYPE ", name,
+                               name.ends_with("_total") ? " counter\n" : " gauge\n")});
   }
-  family = &families.emplace_back();
-  family->name = full;
-  family->text.append("# HELP ").append(full).append(" ").append(help).append("\n");
-  family->text.append("# TYPE ").append(full).append(" ");
-  family->text.append(name.ends_with("_total") ? "counter" : "gauge").append("\n");
 }
 
-void MetricsText::Sample(std::int64_t number, int decimals, const Labels& labels) {
-  std::string& text = family->text;
-  text.append(family->name).append("{power_supply=").append(Quoted(supply));
-  for (const auto& [name, value] : labels) {
-    text.append(",").append(name).append("=").append(Quoted(value));
+void MetricsText::Sample(std::int64_t number, const Labels& labels) {
+  auto& [name, decimals, text] = families.at(family);
+  text += Concat(name, "{power_supply=", Quoted(supply));
+  for (const auto& [label, value] : labels) {
+    text += Concat(",", label, "=", Quoted(value));
   }
-  text.append("} ").append(Decimal(number, decimals)).append("\n");
+  text += Concat("} ", WithoutTrailingZeros(Decimal(number, decimals)), "\n");
 }
 
 std::string MetricsText::Text() const {
   std::string text;
   for (const Block& block : families) {
-    text.append(block.text);
+    text += block.text;
   }
   return text;
 }

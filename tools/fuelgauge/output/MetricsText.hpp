@@ -7,6 +7,8 @@
 #include <utility>
 #include <vector>
 
+#include "gauge/Property.hpp"
+
 namespace fuelgauge {
 
 /// Builds a text in the Prometheus exposition format: families, each with its samples, whatever the
@@ -18,24 +20,25 @@ class MetricsText {
   /// The samples from now on are those of the supply of this @p name.
   void Supply(std::string name) { supply = std::move(name); }
 
-  /// Begins the family "fuelgauge_" and @p name, or goes on with it. A name that ends with "_total" is a
-  /// counter's, any other a gauge's.
-  void Family(std::string_view name, std::string_view help);
+  /// Begins the metric's family, or goes on with it. A name that ends with "_total" is a counter's, any
+  /// other a gauge's.
+  void Family(const Metric& metric);
 
-  /// Adds a sample to the family: @p number divided by ten to the @p decimals, exactly.
-  void Sample(std::int64_t number, int decimals, const Labels& labels = {});
+  /// Adds a sample to the family: @p number divided by ten to the metric's decimals, exactly.
+  void Sample(std::int64_t number, const Labels& labels = {});
 
   std::string Text() const;
 
  private:
   struct Block {
     std::string name;
+    std::size_t decimals;
     std::string text;
   };
 
   std::string supply;
   std::vector<Block> families;
-  Block* family = nullptr;  // the one that samples go to
+  std::size_t family = 0;  // the one that samples go to
 };
 
 }  // namespace fuelgauge

@@ -13,8 +13,8 @@
 #include <optional>
 #include <system_error>
 
-#include "readings/Descriptor.hpp"
-#include "readings/Number.hpp"
+#include "gauge/Descriptor.hpp"
+#include "gauge/Number.hpp"
 
 namespace fuelgauge {
 namespace {

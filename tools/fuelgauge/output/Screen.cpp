@@ -11,9 +11,9 @@
 #include <limits>
 #include <utility>
 
+#include "gauge/Units.hpp"
 #include "output/Columns.hpp"
 #include "output/Table.hpp"
-#include "readings/Units.hpp"
 
 using dral::FuelGaugeProperty;
 
@@ -121,7 +121,7 @@ std::vector<Screen::Line> Screen::Table(const std::string& time, const Readings&
   return lines;
 }
 
-void Screen::Draw(const std::string& time, const Readings& readings) {
+void Screen::Sample(const std::string& time, const Readings& readings) {
   const auto add = [&readings](Course& course, FuelGaugeProperty id) {
     course.push_back(readings.Number(id));
     if (course.size() > CourseLength) {
@@ -134,8 +134,16 @@ void Screen::Draw(const std::string& time, const Readings& readings) {
   Paint({});
 }
 
+void Screen::Notice(const std::string& text) {
+  Sink::Notice(text);
+  drawn.clear();
+}
+
 // A terminal that has wrapped lines joins them again when it is wide enough, unless they are cleared.
-void Screen::Redraw() {
+void Screen::Redraw(bool shellWasThere) {
+  if (shellWasThere) {
+    drawn.clear();
+  }
   Paint(ClearBelow);
 }
 

@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-#include "readings/Readings.hpp"
+#include "output/Sink.hpp"
 
 namespace fuelgauge {
 
@@ -18,16 +18,18 @@ using Course = std::deque<std::optional<int>>;
 /// The table that `watch` draws on a terminal again and again in the same place, with a bar for the
 /// charge and the recent course of voltage and current. It changes nothing that would have to be
 /// restored: between two drawings the cursor waits below the table, whatever ends the program.
-class Screen {
+class Screen : public Sink {
  public:
   /// Draws the table over the last one.
-  void Draw(const std::string& time, const Readings& readings);
+  void Sample(const std::string& time, const Readings& readings) override;
+
+  /// Leaves the last table where it is: the next one comes below the text.
+  void Notice(const std::string& text) override;
 
   /// Draws the last table once more, to fit the window as it is now.
-  void Redraw();
+  void Redraw(bool shellWasThere) override;
 
-  /// Leaves the last table where it is: the next one comes below what is printed meanwhile.
-  void Leave() { drawn.clear(); }
+  void End(const Summary& summary) override { Tell(summary); }
 
  private:
   struct Line {

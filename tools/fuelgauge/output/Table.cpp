@@ -4,10 +4,10 @@
 #include <algorithm>
 #include <iostream>
 
+#include "gauge/LifetimeField.hpp"
+#include "gauge/Units.hpp"
 #include "output/Columns.hpp"
 #include "output/Text.hpp"
-#include "readings/LifetimeField.hpp"
-#include "readings/Units.hpp"
 
 namespace fuelgauge {
 
@@ -30,7 +30,8 @@ void PrintRow(std::string_view name, std::string_view value, std::string_view re
 void PrintFields(const dral::LifetimeData& data) {
   for (const LifetimeField& field : LifetimeFields) {
     const int value = field.Value(data);
-    PrintRow("  " + std::string(field.name), ForPeople(value, field.unit), Raw(value, field.unit));
+    PrintRow("  " + std::string(field.name), ForPeople(value, field.quantity.unit),
+             Raw(value, field.quantity.unit));
   }
 }
 

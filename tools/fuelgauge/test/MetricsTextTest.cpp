@@ -15,8 +15,8 @@ TEST(MetricsText, NumbersAreExact) {
   };
   for (const auto& [number, decimals, digits] : cases) {
     MetricsText text;
-    text.Family("x_volts", "X.");
-    text.Sample(number, decimals);
+    text.Family({"x_volts", "X.", decimals});
+    text.Sample(number);
     EXPECT_EQ(text.Text(),
               "# HELP fuelgauge_x_volts X.\n# TYPE fuelgauge_x_volts gauge\n"
               "fuelgauge_x_volts{power_supply=\"\"} " +
@@ -26,8 +26,8 @@ TEST(MetricsText, NumbersAreExact) {
 
 TEST(MetricsText, LabelsAreEscapedAndUtf8) {
   MetricsText text;
-  text.Family("x", "X.");
-  text.Sample(1, 0, {{"a", "q\"b\\n\nµ"}, {"b", "\xff\xc3(\t"}});
+  text.Family({"x", "X."});
+  text.Sample(1, {{"a", "q\"b\\n\nµ"}, {"b", "\xff\xc3(\t"}});
   EXPECT_EQ(text.Text(),
             "# HELP fuelgauge_x X.\n# TYPE fuelgauge_x gauge\n"
             "fuelgauge_x{power_supply=\"\",a=\"q\\\"b\\\\n\\\\u000aµ\",b=\"\uFFFD\uFFFD("

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "output/Columns.hpp"
-#include "output/Csv.hpp"
+#include "output/CsvSink.hpp"
 #include "output/Table.hpp"
 #include "output/Text.hpp"
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "readings/Reading.hpp"
+#include "gauge/Reading.hpp"
 
 #include <gtest/gtest.h>
 

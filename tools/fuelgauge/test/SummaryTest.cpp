@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "readings/Summary.hpp"
+#include "watching/Summary.hpp"
 
 #include <gtest/gtest.h>
 

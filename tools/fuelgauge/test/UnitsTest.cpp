@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "readings/Units.hpp"
+#include "gauge/Units.hpp"
 
 #include <gtest/gtest.h>
 

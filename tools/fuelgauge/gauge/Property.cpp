@@ -1,0 +1,117 @@
+// SPDX-License-Identifier: MIT
+#include "gauge/Property.hpp"
+
+#include <algorithm>
+#include <utility>
+
+#include "gauge/Concat.hpp"
+#include "gauge/UsageError.hpp"
+
+namespace fuelgauge {
+
+using enum dral::FuelGaugeProperty;
+using enum Type;
+
+namespace {
+
+constexpr bool MayLack = true;
+constexpr bool Always = false;
+
+constexpr Property Row(dral::FuelGaugeProperty id, Type type, Unit unit, bool optional,
+                       Metric metric = {}, std::span<const std::string_view> words = {},
+                       std::size_t series = std::string_view::npos) {
+  return {
+      id, type, unit, optional, metric, words, std::min(series, words.size()), dral::NameOf(id)};
+}
+
+// The words of the kernel's power_supply class, as of Linux 7.3
+// (Documentation/ABI/testing/sysfs-class-power).
+constexpr auto TechnologyWords =
+    std::to_array<std::string_view>({"Unknown", "NiMH", "Li-ion", "Li-poly", "LiFe", "NiCd", "LiMn",
+                                     "PbAc", "NiZn", "RAM", "ZnAr"});
+constexpr auto StatusWords =
+    std::to_array<std::string_view>({"Unknown", "Charging", "Discharging", "Not charging", "Full"});
+constexpr auto LevelWords =
+    std::to_array<std::string_view>({"Unknown", "Critical", "Low", "Normal", "High", "Full"});
+// Those that this gauge's driver says come first: they always have a series.
+constexpr std::size_t HealthSeries = 7;
+constexpr auto HealthWords = std::to_array<std::string_view>(
+    {"Unknown", "Good", "Overheat", "Dead", "Over voltage", "Cold", "Calibration required",
+     "Under voltage", "Unspecified failure", "Watchdog timer expire", "Safety timer expire",
+     "Over current", "Warm", "Cool", "Hot", "No battery", "Blown fuse", "Cell imbalance"});
+
+}  // namespace
+
+// Charges are in coulombs: the convention asks for base units, and finds fault with hours in a name.
+// Cycles only grow, until the gauge is replaced: a counter, whose reset Prometheus understands.
+constexpr std::array Table = {
+    Row(Name, String, Unit::None, MayLack),
+    Row(Technology, String, Unit::None, Always, {}, TechnologyWords),
+    Row(Status, String, Unit::None, Always, {"status", "Charging status: 1 for the state that is."},
+        StatusWords),
+    Row(Present, Bool, Unit::None, Always, {"present", "Whether a battery is present."}),
+    Row(VoltageNow, Int, Unit::Microvolt, Always, {"voltage_volts", "Battery voltage.", 6}),
+    Row(CurrentNow, Int, Unit::Microampere, Always,
+        {"current_amperes", "Battery current with the kernel's sign: negative while discharging.",
+         6}),
+    Row(StateOfCharge, Int, Unit::Percent, Always,
+        {"charge_ratio", "Remaining charge, 0 to 1.", 2}),
+    Row(ChargeLevel, String, Unit::None, MayLack,
+        {"charge_level", "Charge level: 1 for the level that is."}, LevelWords),
+    Row(Temperature, Int, Unit::TenthDegreeCelsius, Always,
+        {"temperature_celsius", "Battery temperature.", 1}),
+    Row(NominalAvailableCapacity, Int, Unit::MicroampereHour, MayLack,
+        {"charge_available_coulombs",
+         "Charge now available, not compensated for load and temperature.", 4, 36}),
+    Row(FullChargeCapacity, Int, Unit::MicroampereHour, MayLack,
+        {"charge_full_coulombs", "Charge when full, compensated for load and temperature.", 4, 36}),
+    Row(CycleCount, Int, Unit::None, MayLack, {"cycles_total", "Charge cycles so far."}),
+    Row(PowerAverage, Int, Unit::Microwatt, MayLack, {"power_average_watts", "Average power.", 6}),
+    Row(Health, String, Unit::None, MayLack, {"health", "Battery health: 1 for the state that is."},
+        HealthWords, HealthSeries),
+    Row(TimeToEmpty, Int, Unit::Second, MayLack,
+        {"time_to_empty_seconds", "Time until empty; none unless discharging."}),
+    Row(LifetimeData, Lifetime, Unit::None, MayLack),
+    Row(LifetimeDataResetValue, Lifetime, Unit::None, Always),
+};
+
+// A row in the place of its property's number, and none forgotten.
+static_assert(std::ranges::equal(Table, dral::FuelGaugePropertyNames, {}, &Property::name));
+
+constinit const std::array<Property, dral::FuelGaugePropertyNames.size()> Properties = Table;
+
+dral::PropertyValue Hint(Type type) {
+  using dral::PropertyValue;
+  switch (type) {
+    case Int:
+      return PropertyValue(std::in_place_type<int>);
+    case Uint:
+      return PropertyValue(std::in_place_type<unsigned int>);
+    case Bool:
+      return PropertyValue(std::in_place_type<bool>);
+    case Lifetime:
+      return PropertyValue(std::in_place_type<dral::LifetimeData>);
+    default:
+      return PropertyValue(std::in_place_type<std::string>);
+  }
+}
+
+const Property& FindProperty(std::string_view name) {
+  const auto id = dral::PropertyNamed(name);
+  if (!id) {
+    throw UsageError(Concat("no property named '", name, "'; 'fuelgauge get --help' lists them"));
+  }
+  return Properties.at(static_cast<std::size_t>(*id));
+}
+
+std::string PropertyNames(const std::function<bool(const Property&)>& wanted) {
+  std::string names;
+  for (const Property& property : Properties) {
+    if (wanted(property)) {
+      names.append(names.empty() ? "" : ", ").append(property.name);
+    }
+  }
+  return names;
+}
+
+}  // namespace fuelgauge

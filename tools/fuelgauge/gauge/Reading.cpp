@@ -1,0 +1,102 @@
+// SPDX-License-Identifier: MIT
+#include "gauge/Reading.hpp"
+
+#include <cerrno>
+#include <variant>
+
+#include "gauge/Errors.hpp"
+
+namespace fuelgauge {
+
+using enum dral::FuelGaugeProperty;
+
+namespace {
+
+// As much of a text as a message may hold, cut between its characters (UTF-8), without its newline.
+std::string Shortened(std::string_view text) {
+  constexpr std::size_t Most = 60;
+  text = text.substr(0, text.find_last_not_of('\n') + 1);
+  if (text.size() <= Most) {
+    return std::string(text);
+  }
+  std::size_t end = Most;
+  while (end > 0 && (static_cast<unsigned char>(text[end]) & 0xC0U) == 0x80U) {
+    --end;
+  }
+  return std::string(text.substr(0, end)).append("...");
+}
+
+}  // namespace
+
+std::optional<int> Reading::Number() const {
+  if (!Succeeded()) {
+    return std::nullopt;
+  }
+  if (const bool* flag = std::get_if<bool>(&value)) {
+    return *flag ? 1 : 0;
+  }
+  const int* number = std::get_if<int>(&value);
+  return number != nullptr ? std::optional(*number) : std::nullopt;
+}
+
+std::optional<std::string_view> Reading::Text() const {
+  const std::string* text = std::get_if<std::string>(&value);
+  return Succeeded() && text != nullptr ? std::optional<std::string_view>(*text) : std::nullopt;
+}
+
+const dral::LifetimeData* Reading::Record() const {
+  return Succeeded() ? std::get_if<dral::LifetimeData>(&value) : nullptr;
+}
+
+std::string Reading::ForPeople() const {
+  if (!Succeeded()) {
+    return "-";
+  }
+  if (const auto text = Text()) {
+    return std::string(*text);
+  }
+  if (const bool* flag = std::get_if<bool>(&value)) {
+    return *flag ? "yes" : "no";
+  }
+  const auto number = Number();
+  return number ? fuelgauge::ForPeople(*number, property->unit) : "";
+}
+
+std::string Reading::Reason() const {
+  if (!refusal.empty()) {
+    return refusal;
+  }
+  if (error == ENODATA && property->id == TimeToEmpty) {
+    return "no estimate: the battery is not discharging, or its current is too small (ENODATA)";
+  }
+  if (error == ENOENT && property->id == LifetimeData) {
+    return "no such file, which only a vendor's driver offers (ENOENT)";
+  }
+  if (error == ENODEV && otherDriver) {
+    return "its driver has no value now (ENODEV)";
+  }
+  if (error != 0) {
+    return ErrorText(error);
+  }
+  if (std::holds_alternative<dral::LifetimeData>(value)) {
+    return "the file is too short for a record of 32 bytes";
+  }
+  if (status == dral::FuelGaugeStatus::NoData) {
+    return "the file is empty";
+  }
+  const std::string number = std::holds_alternative<unsigned int>(value)
+                                 ? "whole number from 0 to 4294967295"
+                                 : "whole number of 32 bits";
+  return text.empty() ? "the file held no " + number
+                      : "'" + Shortened(text) + "' is not a " + number;
+}
+
+bool Reading::MayBeMissing() const {
+  if (otherDriver) {  // ENODEV is how ACPI's says that it does not know
+    return error == ENOENT || error == ENODATA || error == ENODEV;
+  }
+  return (error == ENOENT && property->optional) ||
+         (error == ENODATA && property->id == TimeToEmpty);
+}
+
+}  // namespace fuelgauge

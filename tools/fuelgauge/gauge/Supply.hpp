@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace fuelgauge {
+
+/// Where the kernel has its batteries and chargers.
+constexpr auto SupplyClass = "/sys/class/power_supply";
+
+/// A power_supply device, or a folder that looks like one. Each answer is that of this moment.
+class Supply {
+ public:
+  /// @param device with a slash, a folder; else the name of a supply of the kernel
+  explicit Supply(const std::string& device);
+
+  const std::string& Folder() const { return folder; }
+
+  /// @return the name under which the kernel has it: the folder's last part
+  std::string Name() const;
+
+  /// @return its type, such as "Battery", "Mains" or "USB"; empty for a folder that does not say
+  std::string Type() const;
+
+  /// @return whether a driver other than the kernel's for this family of gauges serves it. What is known of
+  ///         the gauge does not hold there. A folder that names no driver, a copy say, is ours.
+  bool HasOtherDriver() const;
+
+  /// @return whether the battery counts energy, and not charge
+  bool CountsEnergy() const;
+
+  /// @return when it is not there: so, and which supplies there are; else nothing
+  std::string Absence() const;
+
+ private:
+  std::string folder;
+};
+
+/// @return the batteries that the kernel has now, in the order of their names
+std::vector<Supply> Batteries();
+
+/// @return what there is, for a message: "the supplies are AC (Mains), BAT0 (Battery)"
+std::string SuppliesForPeople();
+
+}  // namespace fuelgauge

@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: MIT
+#include "watching/Wait.hpp"
+
+#include <poll.h>
+#include <termios.h>
+#include <unistd.h>
+
+#include <csignal>
+#include <ctime>
+
+namespace fuelgauge {
+namespace {
+
+// NOLINTBEGIN(cppcoreguidelines-avoid-non-const-global-variables): a handler sees nothing else
+volatile std::sig_atomic_t endStatus = static_cast<int>(ExitStatus::FileError);
+volatile std::sig_atomic_t ended = 0;
+volatile std::sig_atomic_t resized = 0;
+volatile std::sig_atomic_t continued = 0;
+// NOLINTEND(cppcoreguidelines-avoid-non-const-global-variables)
+
+// The handlers call only what a handler may call.
+extern "C" void EndNow(int /*signal*/) {
+  termios unused{};
+  pollfd output{STDOUT_FILENO, POLLOUT, 0};
+  if (::tcgetattr(STDOUT_FILENO, &unused) == 0 && ::poll(&output, 1, 0) > 0) {
+    // Behind the "^C" that the terminal shows.
+    [[maybe_unused]] const ssize_t written = ::write(STDOUT_FILENO, "\n", 1);
+  }
+  ::_exit(endStatus);
+}
+
+extern "C" void EndSoon(int /*signal*/) {
+  ended = 1;
+  ::alarm(1);
+}
+
+extern "C" void Note(int signal) {
+  (signal == SIGWINCH ? resized : continued) = 1;
+}
+
+void Handle(int signal, void (*handler)(int), unsigned flags) {
+  struct sigaction action {};
+  ::sigaction(signal, nullptr, &action);
+  if (action.sa_handler != SIG_IGN || signal == SIGALRM) {
+    action = {};
+    action.sa_handler = handler;
+    action.sa_flags = static_cast<int>(flags);
+    ::sigaction(signal, &action, nullptr);
+  }
+}
+
+// What has come since this was asked last.
+Wait::Cause Came() {
+  using enum Wait::Cause;
+  const auto taken = [](volatile std::sig_atomic_t& flag) {
+    const bool set = flag != 0;
+    flag = 0;
+    return set;
+  };
+  return ended != 0 ? Signal : taken(continued) ? Shell : taken(resized) ? Window : Time;
+}
+
+}  // namespace
+
+Wait::Wait() {
+  Handle(SIGALRM, EndNow, 0);
+  for (const int signal : {SIGINT, SIGTERM}) {
+    Handle(signal, EndSoon, SA_RESETHAND | SA_NODEFER | SA_RESTART);  // the second one kills
+  }
+  for (const int signal : {SIGWINCH, SIGCONT}) {
+    Handle(signal, Note, SA_RESTART);
+  }
+  sigset_t none;
+  ::sigemptyset(&none);
+  ::sigprocmask(SIG_SETMASK, &none, nullptr);
+}
+
+void Wait::EndWith(ExitStatus status) {
+  endStatus = static_cast<int>(status);
+}
+
+Wait::Cause Wait::Until(std::chrono::steady_clock::time_point time) const {
+  using std::chrono::nanoseconds;
+  sigset_t all;
+  sigset_t none;
+  ::sigfillset(&all);
+  ::sigprocmask(SIG_SETMASK, &all, &none);  // now or in the wait: none is lost between
+  Cause cause = Came();
+  for (nanoseconds left{}; cause == Cause::Time;) {
+    left = time - std::chrono::steady_clock::now();
+    if (left <= nanoseconds(0)) {
+      break;
+    }
+    const auto seconds = std::chrono::floor<std::chrono::seconds>(left);
+    timespec timeout{};
+    timeout.tv_sec = static_cast<std::time_t>(seconds.count());
+    timeout.tv_nsec = static_cast<long>((left - seconds).count());
+    pollfd output{STDOUT_FILENO, 0, 0};  // without a question it tells that the reader has gone
+    cause = ::ppoll(&output, 1, &timeout, &none) > 0 ? Cause::Reader : Came();
+  }
+  ::sigprocmask(SIG_SETMASK, &none, nullptr);
+  return cause;
+}
+
+}  // namespace fuelgauge

@@ -37,6 +37,11 @@ TEST_F(Bq27542FuelGaugeTest, LogsItsConstruction) {
                 "\n3 LifetimeDataParser LifetimeDataParser: Failed to open file : " + none + "\n");
   overridden.UpdateResetPropertyValues("");
   EXPECT_EQ(log.Take(), "");
+  auto map = Bq27542FuelGauge::PropertyMapAt("/nowhere");
+  std::size_t kept = 0;
+  LogOutput::SetSink([&kept, &map = *map](const LogRecord& /*record*/) { kept = map.size(); });
+  const Bq27542FuelGauge copied(none, std::move(map));
+  EXPECT_EQ(kept, 16U) << "a map that is passed in is copied, not moved from";
 }
 
 TEST_F(Bq27542FuelGaugeTest, AnswersTheResetValueOfItsMapAndTheOverrideFile) {
@@ -68,7 +73,7 @@ TEST_F(Bq27542FuelGaugeTest, TurnsExceptionsIntoLoggedFailures) {
   EXPECT_EQ(Describe(gauge.Set(ResetValue, 1)), "2");
   EXPECT_EQ(Describe(gauge.Reset(unknown)), "2");
   EXPECT_EQ(Describe(noFile.Get(unknown, LifetimeData{})), "2 record " + Bytes({}));
-  EXPECT_EQ(Describe(noFile.Set(unknown, 1)), "3");
+  EXPECT_EQ(Describe(noFile.Set(unknown, 1)), "3 ENOENT");
   EXPECT_EQ(log.Take(),
             "3 Readable Get: Readable Missing FuelGaugeProperty definition: 17\n"
             "3 Bq27542FuelGauge DoGet: Failed to get property: 17ex: Readable Missing "
@@ -107,37 +112,36 @@ TEST_F(Bq27542FuelGaugeTest, TheDefaultPropertiesAreReadOnlyButForTheRecord) {
         " , resettable=" + flag + " , location=/sys/class/power_supply/bq27542-0/" + file +
         " , resetValue=" + (record ? "binaryData" : "") + " , binary=" + flag + "\n\n\n";
     EXPECT_NE(dump.find(line), std::string::npos) << line;
-    EXPECT_EQ(Describe(gauge.Set(FuelGaugeProperty{number}, 5)), record ? "3" : "2");
+    EXPECT_EQ(Describe(gauge.Set(FuelGaugeProperty{number}, 5)), record ? "3 ENOENT" : "2");
   }
 }
 
 TEST_F(Bq27542FuelGaugeTest, ReleasesTheLockBeforeItLogs) {
   folder.Write("temp", "251\n");
+  const auto temperature = [&] { return Describe(gauge.Get<int>(FuelGaugeProperty::Temperature)); };
   std::vector<std::string> answers;
   LogOutput::SetSink([&](const LogRecord& record) {
     if (record.function.substr(0, 2) == "Do") {
-      auto read = std::async(std::launch::async,
-                             [&] { return gauge.Get<int>(FuelGaugeProperty::Temperature); });
-      answers.push_back(read.wait_for(Soon) == std::future_status::ready ? Describe(read.get())
-                                                                         : "blocked");
+      auto read = std::async(std::launch::async, temperature);
+      answers.push_back(read.wait_for(Soon) == std::future_status::ready ? read.get() : "blocked");
     }
   });
-  gauge.Get<int>(FuelGaugeProperty{17});
-  gauge.Set(FuelGaugeProperty{17}, 1);
-  gauge.Reset(FuelGaugeProperty{17});
+  static_cast<void>(gauge.Get<int>(FuelGaugeProperty{17}));
+  static_cast<void>(gauge.Set(FuelGaugeProperty{17}, 1));
+  static_cast<void>(gauge.Reset(FuelGaugeProperty{17}));
   EXPECT_EQ(answers, std::vector<std::string>(3, "0 int 251"));
 }
 
 TEST_F(Bq27542FuelGaugeTest, AnswersTheResetValueWhileAReadHoldsTheLock) {
   ASSERT_EQ(::mkfifo(folder.At("temp").c_str(), 0600), 0);
   auto slow = std::async(std::launch::async,
-                         [&] { return gauge.Get<int>(FuelGaugeProperty::Temperature); });
+                         [&] { return Describe(gauge.Get<int>(FuelGaugeProperty::Temperature)); });
   std::ofstream pipe(folder.At("temp"));  // opens once the reader has; it then waits for the text
   auto quick = std::async(std::launch::async, [&] { return gauge.Get<LifetimeData>(ResetValue); });
   EXPECT_EQ(quick.wait_for(Soon), std::future_status::ready);
   pipe << "251\n" << std::flush;
   pipe.close();
-  EXPECT_EQ(Describe(slow.get()), "0 int 251");
+  EXPECT_EQ(slow.get(), "0 int 251");
 }
 
 TEST_F(Bq27542FuelGaugeTest, IgnoresTheGlobalLocale) {
@@ -156,10 +160,10 @@ TEST_F(Bq27542FuelGaugeTest, IgnoresTheGlobalLocale) {
   std::string answers = Describe(odd.Set(value, 4200)) + ", ";
   answers += Describe(odd.Get(value, 0)) + ", ";
   answers += Describe(Bq27542FuelGauge(overrideFile).Get(ResetValue, 0));
-  odd.Get(FuelGaugeProperty{12345}, 0);
+  answers += ", " + Describe(odd.Get(FuelGaugeProperty{12345}, 0));
   const std::string text = LifetimeData{}.ToString();
   std::locale::global(before);
-  EXPECT_EQ(answers, "0, 0 int 4200, 0 record " + Bytes(LifetimeData{.maxTemp = 1}));
+  EXPECT_EQ(answers, "0, 0 int 4200, 0 record " + Bytes(LifetimeData{.maxTemp = 1}) + ", 2 int 0");
   EXPECT_EQ(text, LifetimeData{}.ToString());
   EXPECT_NE(log.Take().find("definition: 12345\n"), std::string::npos);
 }

@@ -49,6 +49,10 @@ ssize_t write(int file, const void* from, size_t count) {
   count = std::min(count, fault.most);
   return Fails("write") ? -1 : ::syscall(SYS_write, file, from, count);
 }
+int close(int file) {
+  const bool fails = Fails("close");
+  return static_cast<int>(::syscall(SYS_close, file)) - (fails ? 1 : 0);
+}
 int stat(const char* path, struct stat* result) {
   const int found = Fails("stat") ? -1 : ::fstatat(AT_FDCWD, path, result, 0);
   return Fails("found") ? ::unlink(path) : found;
@@ -58,6 +62,7 @@ int stat(const char* path, struct stat* result) {
 void* operator new(std::size_t size) {
   void* const memory = allocationsLeft != 0 ? std::malloc(size) : nullptr;
   if (memory == nullptr) {
+    errno = ENOMEM;
     throw std::bad_alloc();
   }
   allocationsLeft -= allocationsLeft > 0 ? 1 : 0;
@@ -101,6 +106,12 @@ TEST(Fault, EveryAllocationThatFailsIsAFailureAndChangesNothing) {
       // From here on they throw.
       [&] { return longText.Get(FuelGaugeProperty::LifetimeDataResetValue, 0).first; },
       [&] {
+        auto map = std::make_unique<PropertyMap>();
+        (*map)[property].resetValue = std::string(40, 'x');
+        const Bq27542FuelGauge copied("", std::move(map));
+        return FuelGaugeStatus::Success;
+      },
+      [&] {
         InterfaceFactory::Create<FuelGaugeIF, std::string_view>("DefaultIF", override);
         return FuelGaugeStatus::Success;
       },
@@ -116,6 +127,7 @@ TEST(Fault, EveryAllocationThatFailsIsAFailureAndChangesNothing) {
         try {
           allocationsLeft = allocations;
           failed = operation() == FuelGaugeStatus::Failure;
+          EXPECT_EQ(errno, failed ? ENOMEM : 0);
           allocationsLeft = -1;
         } catch (const std::bad_alloc&) {
           allocationsLeft = -1;

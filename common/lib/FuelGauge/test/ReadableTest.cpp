@@ -59,12 +59,13 @@ TEST(Readable, AnswersAsTheHintAsks) {
       {std::string(32, 'r') + "s", record, "0 record " + std::string(32, 'r')},
       {"0123456789", record, "4 record 0123456789" + blank.substr(10), noRecord},
       {page, "hint", "0 string " + page, "", {"open", 0, EINTR}},
-      {page, "hint", "3 string ", noFile, {"open", 0, EMFILE}},
-      {page, record, "3 record " + blank, noRecordFile, {"open", 0, EMFILE}},
+      {page, "hint", "3 EMFILE string ", noFile, {"open", 0, EMFILE}},
+      {page, record, "3 EMFILE record " + blank, noRecordFile, {"open", 0, EMFILE}},
       {page, "hint", "0 string " + page, "", {"read", 1, EINTR, 5}},
-      {page, "hint", "4 string ", noText, {"read", 2, EIO}},  // after a whole block
-      {page, 99, "2 int 99", noText + threw + "stoi\n", {"read", 1, EIO, 5}},
-      {page, record, "4 record 12345 " + blank.substr(6), noRecord, {"read", 1, EIO, 6}},
+      {page, "hint", "4 EIO string ", noText, {"read", 2, EIO}},  // after a whole block
+      {page, 99, "2 EIO int 99", noText + threw + "stoi\n", {"read", 1, EIO, 5}},
+      {page, record, "4 EIO record 12345 " + blank.substr(6), noRecord, {"read", 1, EIO, 6}},
+      {page, "hint", "0 string " + page, "", {"close", 0, EIO}},
   };
   for (const Case& each : cases) {
     at.folder.Write("lifetime_data", each.contents);

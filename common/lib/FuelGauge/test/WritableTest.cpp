@@ -37,19 +37,20 @@ TEST(Writable, WritesJustTheValueInTheFormOfItsType) {
       {"", "0 "},
       {std::string(5000, 'x'), "0 " + std::string(5000, 'x')},
       {given, "0 " + Bytes(given)},
-      {"text", "3 " + before, {"stat", 0, EACCES}, notFound},
-      {"text", "3 ", {"found", 0, ENOENT}, notOpened},
+      {"text", "3 EACCES " + before, {"stat", 0, EACCES}, notFound},
+      {"text", "3 ENOENT ", {"found", 0, ENOENT}, notOpened},
       {"text", "0 text", {"write", 1, EINTR, 3}},
-      {"text", "0 tex", {"write", 1, EIO, 3}},
-      {given, "0 ", {"write", 0, ENOSPC}},
+      {"text", "0 EIO tex", {"write", 1, EIO, 3}},
+      {given, "0 ENOSPC ", {"write", 0, ENOSPC}},
+      {"text", "0 EDQUOT text", {"close", 0, EDQUOT}},
   };
   for (const Case& each : cases) {
     at.folder.Write("lifetime_data", before);
     const auto files = OpenFiles();
     fault = each.fault;
-    const auto status = at.gauge.Set(Property, each.value);
+    const std::string status = Describe(at.gauge.Set(Property, each.value));
     fault = {};
-    EXPECT_EQ(Describe(status) + " " + at.folder.Read("lifetime_data"), each.outcome);
+    EXPECT_EQ(status + " " + at.folder.Read("lifetime_data"), each.outcome);
     EXPECT_EQ(at.log.Take(), each.records) << each.fault.call;
     EXPECT_EQ(OpenFiles(), files);
   }

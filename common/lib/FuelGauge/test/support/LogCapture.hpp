@@ -2,6 +2,7 @@
 #pragma once
 
 #include <LogOutput.hpp>
+#include <cerrno>
 #include <string>
 #include <utility>
 
@@ -17,6 +18,7 @@ class LogCapture {
       lines += std::to_string(static_cast<unsigned>(record.level)) + " " +
                std::string(record.source).substr(ours ? folder.size() : 0) + " " +
                std::string(record.function) + ": " + record.text + "\n";
+      errno = E2BIG;  // a logger may leave anything there
     });
   }
   ~LogCapture() { dral::LogOutput::SetSink({}); }

@@ -4,6 +4,8 @@
 #include <FuelGaugeStatus.hpp>
 #include <PropertyValue.hpp>
 #include <array>
+#include <cerrno>
+#include <cstring>
 #include <filesystem>
 #include <iterator>
 #include <locale>
@@ -13,7 +15,7 @@
 #include <variant>
 
 // What a call answered, as one line of text, so that tables can hold it: "0 int 4200" for a status and
-// its value.
+// its value, "2 EIO int 0" when it left an error in errno. To be asked before errno changes.
 
 /// @return the record's binary form
 inline std::string Bytes(const dral::LifetimeData& data) {
@@ -23,13 +25,15 @@ inline std::string Bytes(const dral::LifetimeData& data) {
 }
 
 inline std::string Describe(dral::FuelGaugeStatus status) {
-  return std::to_string(static_cast<unsigned>(status));
+  const char* const error = errno != 0 ? ::strerrorname_np(errno) : "";
+  return std::to_string(static_cast<unsigned>(status)) + (*error != 0 ? " " : "") + error;
 }
 
 inline std::string Describe(const std::pair<dral::FuelGaugeStatus, dral::PropertyValue>& answer) {
+  const std::string status = Describe(answer.first);
   std::ostringstream text;
   text.imbue(std::locale::classic());
-  text << std::boolalpha << Describe(answer.first)
+  text << std::boolalpha << status
        << std::array{" string ", " int ", " uint ", " bool ", " record "}[answer.second.index()];
   std::visit([&text](const auto& value) { text << value; }, answer.second);
   return text.str();

@@ -14,8 +14,9 @@ namespace dral {
 class KESP_EXPORT InterfaceFactory {
  public:
   /// Builds a new object with the constructor registered as @p name, or as "DefaultIF" when there
-  /// is no such name. Thread-safe. Retains neither @p name nor the arguments. Do not
-  /// call it once the process is exiting.
+  /// is no such name. Thread-safe. Retains neither @p name nor the arguments. Do not call it from a
+  /// destructor of a static object, nor otherwise once the process is exiting: the registry is static too,
+  /// and may be gone.
   ///
   /// The argument list chooses the registry, so name it: `Create<FuelGaugeIF,
   /// std::string_view>(…)`. Left to deduction, a `std::string` argument selects another registry,

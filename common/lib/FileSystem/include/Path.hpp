@@ -10,6 +10,7 @@
 
 namespace dral {
 
+/// A path of the system's: the stand-in for the platform's class, with what the library needs of it.
 class Path : public PathIF {
  public:
   /// @param linuxApi answers the system calls; null: the system itself

@@ -45,14 +45,17 @@ class KESP_EXPORT Bq27542FuelGauge : public FuelGaugeIF {
       LifetimeDataPropertyInfo;  ///< lifetime_data; settable, reset to the default record
 
   /// @return the same properties with their files in @p directory instead, for the constructor
+  /// @throws std::bad_alloc
   static std::unique_ptr<PropertyMap> PropertyMapAt(std::string_view directory);
 
   /// @param lifetimeResetPath a lifetime override file (see `LifetimeDataParser`); empty for none
-  /// @param propertyMap taken over; null means the properties of `bq27542-0`
+  /// @param propertyMap copied, and released when construction ends; null means the properties of
+  ///        `bq27542-0`
   /// @throws std::invalid_argument, std::out_of_range when a field's value in the override file is
   ///         not a number or is too large
   /// @throws std::bad_variant_access when @p lifetimeResetPath is given but @p propertyMap has no
   ///         lifetime entry, or one that holds no record
+  /// @throws std::bad_alloc
   explicit Bq27542FuelGauge(std::string_view lifetimeResetPath,
                             std::unique_ptr<PropertyMap> propertyMap = nullptr);
   ~Bq27542FuelGauge() override;

@@ -16,7 +16,7 @@
 
 namespace dral {
 
-/// A battery fuel gauge. Get one from the factory:
+/// A battery fuel gauge. `OpenFuelGauge` gives one, and so does the factory, by name:
 ///
 ///     auto gauge = InterfaceFactory::Create<FuelGaugeIF, std::string_view>("DefaultIF", "");
 ///     auto [status, microvolts] = gauge->Get<int>(FuelGaugeProperty::VoltageNow);
@@ -46,7 +46,7 @@ class KESP_EXPORT FuelGaugeIF {
   /// @return Success once the file was opened and written, even when the kernel then refused the
   ///         value; FileError when the file is missing or cannot be opened; Failure when the
   ///         property is unknown or not settable
-  FuelGaugeStatus Set(FuelGaugeProperty property, PropertyValue value);
+  [[nodiscard]] FuelGaugeStatus Set(FuelGaugeProperty property, PropertyValue value);
 
   /// Reads @p property as the alternative that @p hint holds. The answer always holds that
   /// alternative, but for `LifetimeDataResetValue`, which answers the value as it is kept.
@@ -54,14 +54,15 @@ class KESP_EXPORT FuelGaugeIF {
   ///         record: FileError and the default record, or NoData and what could be read of it; as
   ///         a number or bool: Failure and @p hint unchanged when the file is missing, unreadable
   ///         or holds no number that fits. Failure and @p hint for an unknown property.
-  std::pair<FuelGaugeStatus, PropertyValue> Get(FuelGaugeProperty property, PropertyValue hint) {
+  [[nodiscard]] std::pair<FuelGaugeStatus, PropertyValue> Get(FuelGaugeProperty property,
+                                                              PropertyValue hint) {
     return DoGet(property, std::move(hint));
   }
 
   /// Reads @p property as a @p T, one of the alternatives of `PropertyValue`.
   /// @return as above with the hint `T{}`; Failure and `T{}` when the answer holds another type
   template <typename T>
-  std::pair<FuelGaugeStatus, T> Get(FuelGaugeProperty property) {
+  [[nodiscard]] std::pair<FuelGaugeStatus, T> Get(FuelGaugeProperty property) {
     static_assert(std::is_constructible_v<PropertyValue, std::in_place_type_t<T>>,
                   "T must be one of the alternatives of PropertyValue");
     auto [status, value] = Get(property, PropertyValue{std::in_place_type<T>});
@@ -73,7 +74,7 @@ class KESP_EXPORT FuelGaugeIF {
 
   /// Writes the property's reset value.
   /// @return as `Set`
-  FuelGaugeStatus Reset(FuelGaugeProperty property);
+  [[nodiscard]] FuelGaugeStatus Reset(FuelGaugeProperty property);
 
  protected:
   // What an implementation supplies. The hooks are called from several threads at once, and what they

@@ -20,6 +20,15 @@ PropertyValue CopyOf(const PropertyValue& value) {
   return value.valueless_by_exception() ? value : std::visit(copy, value);
 }
 
+PropertyMap CopyOf(const PropertyMap& map) {
+  PropertyMap copy;
+  for (const auto& [property, info] : map) {
+    copy.emplace(property, PropertyInfo{info.propertyName, info.settable, info.resettable,
+                                        info.location, CopyOf(info.resetValue), info.binary});
+  }
+  return copy;
+}
+
 }  // namespace
 
 Bq27542FuelGauge::Bq27542FuelGauge(std::string_view lifetimeResetPath,
@@ -27,7 +36,7 @@ Bq27542FuelGauge::Bq27542FuelGauge(std::string_view lifetimeResetPath,
   KESP_LOG("Bq27542FuelGauge", LogProgress)
       << (propertyMap ? "Bq27542FuelGauge constructor using passed in property map "
                       : "Bq27542FuelGauge constructor using default property map ");
-  this->propertyMap = propertyMap ? std::move(*propertyMap) : DefaultPropertyMap();
+  this->propertyMap = propertyMap ? CopyOf(*propertyMap) : DefaultPropertyMap();
   if (!lifetimeResetPath.empty()) {
     KESP_LOG("Bq27542FuelGauge", LogProgress)
         << "Bq27542FuelGauge constructor overwriting lifetime reset data " << lifetimeResetPath;

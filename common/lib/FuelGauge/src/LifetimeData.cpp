@@ -21,6 +21,7 @@ void LifetimeData::Validate() {
   const auto temperature = [](std::int16_t value) {
     return LifetimeMinTemp <= value && value <= LifetimeMaxTemp;
   };
+  // The top bit must be clear: no pack has 32.8 V.
   const auto packVoltage = [](std::uint16_t value) { return value <= 0x7FFFU; };
   const auto current = [](std::int16_t value) {
     return LifetimeMinCurrent <= value && value <= LifetimeMaxCurrent;
@@ -38,12 +39,17 @@ void LifetimeData::Validate() {
 
 std::string LifetimeData::ToString() const {
   // Not a string stream, which would group digits as the global locale does.
-  return "dral::LifetimeData:    maxTemp=" + std::to_string(maxTemp) +
-         " , minTemp=" + std::to_string(minTemp) +
-         " , maxPackVoltage=" + std::to_string(maxPackVoltage) +
-         " , minPackVoltage=" + std::to_string(minPackVoltage) +
-         " , maxChargeCurrent=" + std::to_string(maxChargeCurrent) +
-         " , maxDischargeCurrent=" + std::to_string(maxDischargeCurrent) + "\n";
+  std::string text;
+  const auto add = [&text](const char* name, int value) {
+    text.append(name).append(std::to_string(value));
+  };
+  add("dral::LifetimeData:    maxTemp=", maxTemp);
+  add(" , minTemp=", minTemp);
+  add(" , maxPackVoltage=", maxPackVoltage);
+  add(" , minPackVoltage=", minPackVoltage);
+  add(" , maxChargeCurrent=", maxChargeCurrent);
+  add(" , maxDischargeCurrent=", maxDischargeCurrent);
+  return text.append("\n");
 }
 
 std::ostream& operator<<(std::ostream& os, const LifetimeData& data) {

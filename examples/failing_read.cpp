@@ -1,21 +1,28 @@
 // SPDX-License-Identifier: MIT
-// Tells a value that is not there now from a gauge that is gone. A number only fails; text tells why.
-#include <FuelGaugeIF.hpp>
+// How each kind of failure ends, and why: the status, and the error of the system call that failed.
+#include <FuelGaugeNames.hpp>
+#include <OpenFuelGauge.hpp>
+#include <cerrno>
+#include <cstring>
 #include <iostream>
 
 using namespace dral;
 
+static void Print(std::string_view what, FuelGaugeStatus status) {
+  const int error = errno;  // at once: what runs next may change it
+  std::cout << what << ": " << NameOf(status) << ", "
+            << (error != 0 ? std::strerror(error) : "no system call failed") << "\n";
+}
+
 int main() {
-  const auto gauge =
-      InterfaceFactory::Create<FuelGaugeIF, std::string_view>("Bq27542FuelGauge", "");
-  const auto [status, seconds] = gauge->Get<int>(FuelGaugeProperty::TimeToEmpty);
-  if (status == FuelGaugeStatus::Success) {
-    std::cout << seconds << " s to empty\n";
-    return 0;
+  const auto gauge = OpenFuelGauge();
+  for (const auto property : {FuelGaugeProperty::VoltageNow, FuelGaugeProperty::CurrentNow,
+                              FuelGaugeProperty::Temperature, FuelGaugeProperty::TimeToEmpty,
+                              FuelGaugeProperty::CycleCount, FuelGaugeProperty::StateOfCharge,
+                              FuelGaugeProperty::LifetimeDataResetValue}) {
+    Print(NameOf(property), gauge->Get<int>(property).first);
   }
-  const auto why = gauge->Get<std::string>(FuelGaugeProperty::TimeToEmpty).first;
-  std::cout << (why == FuelGaugeStatus::NoData      ? "no time to empty: not discharging?\n"
-                : why == FuelGaugeStatus::FileError ? "no gauge\n"
-                                                    : "try again\n");
-  return static_cast<int>(why);
+  Print("the record", gauge->Get<LifetimeData>(FuelGaugeProperty::LifetimeData).first);
+  Print("a new record", gauge->Set(FuelGaugeProperty::LifetimeData, LifetimeData{}));
+  Print("a new voltage", gauge->Set(FuelGaugeProperty::VoltageNow, 3700000));
 }

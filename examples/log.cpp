@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Takes the library's log records: here those on a field that an override file does not name.
-#include <FuelGaugeIF.hpp>
 #include <LogOutput.hpp>
+#include <OpenFuelGauge.hpp>
 #include <fstream>
 #include <iostream>
 
@@ -15,5 +15,5 @@ int main() {
 
   std::ofstream("lifetime.conf") << "maxTemp 550\nminTemp -100\nmaxPackVoltage 4400\n"
                                  << "minPackVoltage 2800\nmaxChargeCurrent 2500\n";
-  InterfaceFactory::Create<FuelGaugeIF, std::string_view>("DefaultIF", "lifetime.conf");
+  OpenFuelGauge("lifetime.conf");
 }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Resets the lifetime record to values of one's own, from a file of fields.
-#include <FuelGaugeIF.hpp>
+#include <OpenFuelGauge.hpp>
 #include <fstream>
 #include <iostream>
 
@@ -10,7 +10,7 @@ int main() {
   const std::string path = "lifetime.conf";
   std::ofstream(path) << "maxTemp 550\nminTemp -100\n";
   try {
-    const auto gauge = InterfaceFactory::Create<FuelGaugeIF, std::string_view>("DefaultIF", path);
+    const auto gauge = OpenFuelGauge(path);
     if (gauge->Reset(FuelGaugeProperty::LifetimeData) != FuelGaugeStatus::Success) {
       return 1;
     }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // What becomes of mistakes in an override file.
-#include <FuelGaugeIF.hpp>
+#include <OpenFuelGauge.hpp>
 #include <fstream>
 #include <iostream>
 
@@ -13,8 +13,7 @@ int main() {
     std::ofstream("lifetime.conf") << text << "\n";
     std::cout << text << ": ";
     try {
-      const auto gauge =
-          InterfaceFactory::Create<FuelGaugeIF, std::string_view>("DefaultIF", "lifetime.conf");
+      const auto gauge = OpenFuelGauge("lifetime.conf");
       std::cout
           << gauge->Get<LifetimeData>(FuelGaugeProperty::LifetimeDataResetValue).second.maxTemp
           << "\n";

@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: MIT
 // Reads one value and believes it only when the status says so.
-#include <FuelGaugeIF.hpp>
+#include <OpenFuelGauge.hpp>
 #include <iostream>
 
 using namespace dral;
 
 int main() {
-  const auto gauge =
-      InterfaceFactory::Create<FuelGaugeIF, std::string_view>("Bq27542FuelGauge", "");
+  const auto gauge = OpenFuelGauge();
   const auto [status, microvolts] = gauge->Get<int>(FuelGaugeProperty::VoltageNow);
   if (status != FuelGaugeStatus::Success) {
     return 1;

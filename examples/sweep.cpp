@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: MIT
 // Reads every property that is text as text: what cannot be read does not hide the others.
-#include <FuelGaugeIF.hpp>
+#include <OpenFuelGauge.hpp>
 #include <iostream>
 
 using namespace dral;
 
 int main() {
-  const auto gauge =
-      InterfaceFactory::Create<FuelGaugeIF, std::string_view>("Bq27542FuelGauge", "");
+  const auto gauge = OpenFuelGauge();
   for (auto number = 0U; number < static_cast<unsigned>(FuelGaugeProperty::LifetimeData);
        ++number) {
     const auto [status, text] = gauge->Get<std::string>(FuelGaugeProperty{number});

@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include <Bq27542FuelGauge.hpp>
-#include <FuelGaugeIF.hpp>
 #include <LifetimeDataParser.hpp>
+#include <OpenFuelGauge.hpp>
 #include <iostream>
 
 int main() {
   using namespace dral;
-  const auto gauge =
-      InterfaceFactory::Create<FuelGaugeIF, std::string_view>("Bq27542FuelGauge", "");
+  const auto gauge = OpenFuelGauge();
   const auto [status, record] = gauge->Get<LifetimeData>(FuelGaugeProperty::LifetimeDataResetValue);
   std::cout << record.ToString() << Bq27542FuelGauge::HealthPropertyInfo
             << LifetimeDataParser::mapping.size() << "\n";

@@ -74,6 +74,7 @@ TEST_F(Bq27542FuelGaugeTest, TurnsExceptionsIntoLoggedFailures) {
   EXPECT_EQ(Describe(gauge.Reset(unknown)), "2");
   EXPECT_EQ(Describe(noFile.Get(unknown, LifetimeData{})), "2 record " + Bytes({}));
   EXPECT_EQ(Describe(noFile.Set(unknown, 1)), "3 ENOENT");
+  EXPECT_EQ(Describe(gauge.Reset(FuelGaugeProperty::Name)), "2");
   EXPECT_EQ(log.Take(),
             "3 Readable Get: Readable Missing FuelGaugeProperty definition: 17\n"
             "3 Bq27542FuelGauge DoGet: Failed to get property: 17ex: Readable Missing "
@@ -87,7 +88,8 @@ TEST_F(Bq27542FuelGaugeTest, TurnsExceptionsIntoLoggedFailures) {
             "3 Readable Get: FuelGaugeProperty:17not resettable, filepath empty\n"
             "3 Bq27542FuelGauge DoGet: Failed to get property: 17ex: Readable Missing "
             "FuelGaugeProperty filepath\n"
-            "3 Writable WriteData: Writable::Set failed - file not found: \n");
+            "3 Writable WriteData: Writable::Set failed - file not found: \n"
+            "3 Writable WriteData: FuelGaugeProperty:0not settable\n");
 }
 
 TEST_F(Bq27542FuelGaugeTest, TheDefaultPropertiesAreReadOnlyButForTheRecord) {

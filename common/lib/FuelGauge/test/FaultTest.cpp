@@ -50,8 +50,7 @@ ssize_t write(int file, const void* from, size_t count) {
   return Fails("write") ? -1 : ::syscall(SYS_write, file, from, count);
 }
 int close(int file) {
-  const bool fails = Fails("close");
-  return static_cast<int>(::syscall(SYS_close, file)) - (fails ? 1 : 0);
+  return ::syscall(SYS_close, file) != 0 || Fails("close") ? -1 : 0;
 }
 int stat(const char* path, struct stat* result) {
   const int found = Fails("stat") ? -1 : ::fstatat(AT_FDCWD, path, result, 0);
@@ -95,8 +94,6 @@ TEST(Fault, EveryAllocationThatFailsIsAFailureAndChangesNothing) {
   FolderGauge at;
   const std::string override = at.folder.Write("override", "maxTemp 550 minTemp -100");
   const std::string file = "1" + std::string(5000, ' ');
-  // A text longer than a string holds within itself.
-  Bq27542FuelGauge longText("", MapOf(property, {.resetValue = std::string(40, 'x')}));
   const std::function<FuelGaugeStatus()> operations[] = {
       [&] { return at.gauge.Get(property, "hint").first; },
       [&] { return at.gauge.Get(property, 7).first; },
@@ -104,12 +101,12 @@ TEST(Fault, EveryAllocationThatFailsIsAFailureAndChangesNothing) {
       [&] { return at.gauge.Set(property, 7); },
       [&] { return at.gauge.Reset(property); },
       // From here on they throw.
-      [&] { return longText.Get(FuelGaugeProperty::LifetimeDataResetValue, 0).first; },
       [&] {
         auto map = std::make_unique<PropertyMap>();
-        (*map)[property].resetValue = std::string(40, 'x');
-        const Bq27542FuelGauge copied("", std::move(map));
-        return FuelGaugeStatus::Success;
+        (*map)[property].resetValue =
+            std::string(40, 'x');  // longer than a string holds within itself
+        Bq27542FuelGauge longText("", std::move(map));
+        return longText.Get(FuelGaugeProperty::LifetimeDataResetValue, 0).first;
       },
       [&] {
         InterfaceFactory::Create<FuelGaugeIF, std::string_view>("DefaultIF", override);

@@ -63,7 +63,6 @@ TEST(Readable, AnswersAsTheHintAsks) {
       {page, record, "3 EMFILE record " + blank, noRecordFile, {"open", 0, EMFILE}},
       {page, "hint", "0 string " + page, "", {"read", 1, EINTR, 5}},
       {page, "hint", "4 EIO string ", noText, {"read", 2, EIO}},  // after a whole block
-      {page, 99, "2 EIO int 99", noText + threw + "stoi\n", {"read", 1, EIO, 5}},
       {page, record, "4 EIO record 12345 " + blank.substr(6), noRecord, {"read", 1, EIO, 6}},
       {page, "hint", "0 string " + page, "", {"close", 0, EIO}},
   };

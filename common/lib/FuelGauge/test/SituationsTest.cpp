@@ -12,8 +12,6 @@
 
 using namespace dral;
 
-namespace {
-
 struct Situation {
   std::string target;  // of the link that is the property's file
   std::string text, number, record, write;
@@ -27,41 +25,34 @@ const Situation situations[] = {
     {"word/below", "3 ENOTDIR", "2 ENOTDIR", "3 ENOTDIR", "3 ENOTDIR"},
     {"/proc/self/mem", "4 EIO", "2 EIO", "4 EIO", "0 EIO"},  // as a bus that is dead
     {"empty", "4", "2", "4", "0"},
-    {"word", "0", "2", "4", "0"},  // no number, and too short for a record
     {"large", "0", "2", "4", "0"},
-    {"large", "0", "2", "4", "2", false},
-    {"large", "2", "2", "2", "2", true, FuelGaugeProperty{17}},
-    {"large", "0", "0", "0", "2", true, FuelGaugeProperty::LifetimeDataResetValue},
+    {"word", "0", "2", "4", "2", false},  // no number, and too short for a record
+    {"word", "2", "2", "2", "2", false, FuelGaugeProperty{17}},
+    {"word", "0", "0", "0", "2", false, FuelGaugeProperty::LifetimeDataResetValue},
 };
 
-void AskAll() {
+static void AskAll() {
   for (const Situation& each : situations) {
     const TemporaryFolder folder;
     folder.Write("empty", "");
-    folder.Write("word", "full of it");
+    folder.Write("word", "full");
     folder.Write("large", "99999999999999999999");
     std::filesystem::create_symlink(each.target, folder.At("file"));
-    const PropertyInfo info{
-        .settable = each.settable, .location = folder.At("file"), .resetValue = "value"};
-    Bq27542FuelGauge gauge("", MapOf(FuelGaugeProperty::LifetimeData, info));
-    const auto expect = [&each](const std::string& answer, auto operation) {
-      errno = E2BIG;  // something older
-      EXPECT_EQ(Describe(operation()), answer) << each.target;
-    };
-    const auto read = [&](const PropertyValue& hint, const std::string& answer) {
-      expect(answer, [&] { return gauge.Get(each.property, hint).first; });
-    };
-    read("", each.text);
-    read(0, each.number);
-    read(0U, each.number);
-    read(true, each.number);
-    read(LifetimeData{}, each.record);
-    expect(each.write, [&] { return gauge.Set(each.property, "value"); });
-    expect(each.write, [&] { return gauge.Reset(each.property); });
+    Bq27542FuelGauge gauge("", MapOf(FuelGaugeProperty::LifetimeData,
+                                     {"", each.settable, true, folder.At("file"), "value"}));
+    const std::string answers[] = {each.text, each.number, each.number, each.number, each.record};
+    for (const PropertyValue& hint : {PropertyValue(""), PropertyValue(0), PropertyValue(0U),
+                                      PropertyValue(true), PropertyValue(LifetimeData{})}) {
+      errno = E2BIG;  // something older, here and below
+      EXPECT_EQ(Describe(gauge.Get(each.property, hint).first), answers[hint.index()]);
+    }
+    errno = E2BIG;
+    EXPECT_EQ(Describe(gauge.Set(each.property, "value")), each.write) << each.target;
+    errno = E2BIG;
+    EXPECT_EQ(Describe(gauge.Reset(each.property)), each.write) << each.target;
+    EXPECT_EQ(folder.Read("word"), "full");
   }
 }
-
-}  // namespace
 
 TEST(Situations, HaveTheirStatusAndErrnoThoughTwoThreadsLogToNowhere) {
   const int standardError = ::dup(STDERR_FILENO);

@@ -57,14 +57,3 @@ TEST(Writable, WritesJustTheValueInTheFormOfItsType) {
   EXPECT_EQ(Describe(at.gauge.Reset(Property)), "0");
   EXPECT_EQ(at.folder.Read("lifetime_data"), Bytes(LifetimeData{}));
 }
-
-TEST(Writable, NeedsASettableProperty) {
-  FolderGauge at;
-  const std::string file = at.folder.Write("file", "kept");
-  Bq27542FuelGauge gauge("", MapOf(Property, {.resettable = true, .location = file}));
-  EXPECT_EQ(Describe(gauge.Set(Property, 5)), "2");
-  EXPECT_EQ(Describe(gauge.Reset(Property)), "2");
-  const std::string record = "3 Writable WriteData: FuelGaugeProperty:15not settable\n";
-  EXPECT_EQ(at.log.Take(), record + record);
-  EXPECT_EQ(at.folder.Read("file"), "kept");
-}

@@ -2,6 +2,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "Bq27542FuelGauge.hpp"
 
@@ -51,7 +52,8 @@ const PropertyInfo Bq27542FuelGauge::LifetimeDataPropertyInfo = {
 };
 
 PropertyMap Bq27542FuelGauge::DefaultPropertyMap() {
-  return {
+  // Not from a list of entries: each would be copied twice.
+  const std::pair<FuelGaugeProperty, const PropertyInfo&> entries[] = {
       {FuelGaugeProperty::Name, NamePropertyInfo},
       {FuelGaugeProperty::Technology, TechnologyPropertyInfo},
       {FuelGaugeProperty::Status, StatusPropertyInfo},
@@ -69,6 +71,11 @@ PropertyMap Bq27542FuelGauge::DefaultPropertyMap() {
       {FuelGaugeProperty::TimeToEmpty, TimeToEmptyPropertyInfo},
       {FuelGaugeProperty::LifetimeData, LifetimeDataPropertyInfo},
   };
+  PropertyMap map;
+  for (const auto& [property, info] : entries) {
+    map.emplace(property, info);
+  }
+  return map;
 }
 
 std::unique_ptr<PropertyMap> Bq27542FuelGauge::PropertyMapAt(std::string_view directory) {

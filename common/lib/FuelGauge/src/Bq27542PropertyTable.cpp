@@ -1,79 +1,76 @@
 // SPDX-License-Identifier: MIT
+#include <cstddef>
 #include <memory>
 #include <string>
 #include <string_view>
 #include <utility>
 
 #include "Bq27542FuelGauge.hpp"
+#include "FuelGaugeNames.hpp"
 
 namespace dral {
 namespace {
 
 constexpr std::string_view DefaultDirectory = "/sys/class/power_supply/bq27542-0";
 
-std::string Location(std::string_view attribute) {
-  return std::string(DefaultDirectory).append("/").append(attribute);
+constexpr bool EachRowIsInItsPlace() {
+  for (std::size_t number = 0; number < FuelGaugePropertyRows.size(); ++number) {
+    if (static_cast<std::size_t>(FuelGaugePropertyRows[number].property) != number) {
+      return false;
+    }
+  }
+  return true;
 }
+static_assert(EachRowIsInItsPlace());
 
-PropertyInfo ReadOnly(std::string_view name, std::string_view attribute) {
-  return {.propertyName = std::string(name), .location = Location(attribute)};
+PropertyInfo Entry(FuelGaugeProperty property) {
+  const auto& [id, name, attribute] = FuelGaugePropertyRows.at(static_cast<std::size_t>(property));
+  std::string location;
+  location.reserve(DefaultDirectory.size() + 1 + attribute.size());
+  location.append(DefaultDirectory).append("/").append(attribute);
+  const bool isRecord = id == FuelGaugeProperty::LifetimeData;  // which alone can be written
+  return {.propertyName = std::string(id == FuelGaugeProperty::Name ? "Manufacturer" : name),
+          .settable = isRecord,
+          .resettable = isRecord,
+          .location = std::move(location),
+          .resetValue = isRecord ? PropertyValue(LifetimeData{}) : PropertyValue(),
+          .binary = isRecord};
 }
 
 }  // namespace
 
-const PropertyInfo Bq27542FuelGauge::NamePropertyInfo = ReadOnly("Manufacturer", "manufacturer");
-const PropertyInfo Bq27542FuelGauge::TechnologyPropertyInfo = ReadOnly("Technology", "technology");
-const PropertyInfo Bq27542FuelGauge::StatusPropertyInfo = ReadOnly("Status", "status");
-const PropertyInfo Bq27542FuelGauge::PresentPropertyInfo = ReadOnly("Present", "present");
-const PropertyInfo Bq27542FuelGauge::VoltageNowPropertyInfo = ReadOnly("VoltageNow", "voltage_now");
-const PropertyInfo Bq27542FuelGauge::CurrentNowPropertyInfo = ReadOnly("CurrentNow", "current_now");
+const PropertyInfo Bq27542FuelGauge::NamePropertyInfo = Entry(FuelGaugeProperty::Name);
+const PropertyInfo Bq27542FuelGauge::TechnologyPropertyInfo = Entry(FuelGaugeProperty::Technology);
+const PropertyInfo Bq27542FuelGauge::StatusPropertyInfo = Entry(FuelGaugeProperty::Status);
+const PropertyInfo Bq27542FuelGauge::PresentPropertyInfo = Entry(FuelGaugeProperty::Present);
+const PropertyInfo Bq27542FuelGauge::VoltageNowPropertyInfo = Entry(FuelGaugeProperty::VoltageNow);
+const PropertyInfo Bq27542FuelGauge::CurrentNowPropertyInfo = Entry(FuelGaugeProperty::CurrentNow);
 const PropertyInfo Bq27542FuelGauge::StateOfChargePropertyInfo =
-    ReadOnly("StateOfCharge", "capacity");
+    Entry(FuelGaugeProperty::StateOfCharge);
 const PropertyInfo Bq27542FuelGauge::ChargeLevelPropertyInfo =
-    ReadOnly("ChargeLevel", "capacity_level");
-const PropertyInfo Bq27542FuelGauge::TemperaturePropertyInfo = ReadOnly("Temperature", "temp");
+    Entry(FuelGaugeProperty::ChargeLevel);
+const PropertyInfo Bq27542FuelGauge::TemperaturePropertyInfo =
+    Entry(FuelGaugeProperty::Temperature);
 const PropertyInfo Bq27542FuelGauge::NominalAvailableCapacityPropertyInfo =
-    ReadOnly("NominalAvailableCapacity", "charge_now");
+    Entry(FuelGaugeProperty::NominalAvailableCapacity);
 const PropertyInfo Bq27542FuelGauge::FullChargeCapacityPropertyInfo =
-    ReadOnly("FullChargeCapacity", "charge_full");
-const PropertyInfo Bq27542FuelGauge::CycleCountPropertyInfo = ReadOnly("CycleCount", "cycle_count");
+    Entry(FuelGaugeProperty::FullChargeCapacity);
+const PropertyInfo Bq27542FuelGauge::CycleCountPropertyInfo = Entry(FuelGaugeProperty::CycleCount);
 const PropertyInfo Bq27542FuelGauge::PowerAveragePropertyInfo =
-    ReadOnly("PowerAverage", "power_avg");
-const PropertyInfo Bq27542FuelGauge::HealthPropertyInfo = ReadOnly("Health", "health");
+    Entry(FuelGaugeProperty::PowerAverage);
+const PropertyInfo Bq27542FuelGauge::HealthPropertyInfo = Entry(FuelGaugeProperty::Health);
 const PropertyInfo Bq27542FuelGauge::TimeToEmptyPropertyInfo =
-    ReadOnly("TimeToEmpty", "time_to_empty_now");
-const PropertyInfo Bq27542FuelGauge::LifetimeDataPropertyInfo = {
-    .propertyName = "LifetimeData",
-    .settable = true,
-    .resettable = true,
-    .location = Location("lifetime_data"),
-    .resetValue = LifetimeData{},
-    .binary = true,
-};
+    Entry(FuelGaugeProperty::TimeToEmpty);
+const PropertyInfo Bq27542FuelGauge::LifetimeDataPropertyInfo =
+    Entry(FuelGaugeProperty::LifetimeData);
 
 PropertyMap Bq27542FuelGauge::DefaultPropertyMap() {
-  // Not from a list of entries: each would be copied twice.
-  const std::pair<FuelGaugeProperty, const PropertyInfo&> entries[] = {
-      {FuelGaugeProperty::Name, NamePropertyInfo},
-      {FuelGaugeProperty::Technology, TechnologyPropertyInfo},
-      {FuelGaugeProperty::Status, StatusPropertyInfo},
-      {FuelGaugeProperty::Present, PresentPropertyInfo},
-      {FuelGaugeProperty::VoltageNow, VoltageNowPropertyInfo},
-      {FuelGaugeProperty::CurrentNow, CurrentNowPropertyInfo},
-      {FuelGaugeProperty::StateOfCharge, StateOfChargePropertyInfo},
-      {FuelGaugeProperty::ChargeLevel, ChargeLevelPropertyInfo},
-      {FuelGaugeProperty::Temperature, TemperaturePropertyInfo},
-      {FuelGaugeProperty::NominalAvailableCapacity, NominalAvailableCapacityPropertyInfo},
-      {FuelGaugeProperty::FullChargeCapacity, FullChargeCapacityPropertyInfo},
-      {FuelGaugeProperty::CycleCount, CycleCountPropertyInfo},
-      {FuelGaugeProperty::PowerAverage, PowerAveragePropertyInfo},
-      {FuelGaugeProperty::Health, HealthPropertyInfo},
-      {FuelGaugeProperty::TimeToEmpty, TimeToEmptyPropertyInfo},
-      {FuelGaugeProperty::LifetimeData, LifetimeDataPropertyInfo},
-  };
   PropertyMap map;
-  for (const auto& [property, info] : entries) {
-    map.emplace(property, info);
+  map.reserve(FuelGaugePropertyRows.size());
+  for (const FuelGaugePropertyRow& row : FuelGaugePropertyRows) {
+    if (!row.attribute.empty()) {
+      map.emplace(row.property, Entry(row.property));
+    }
   }
   return map;
 }

@@ -4,51 +4,40 @@
 #include <istream>
 #include <ostream>
 #include <string_view>
+#include <type_traits>
+#include <variant>
 
 #include "LifetimeDataBytes.hpp"
+#include "LifetimeFields.hpp"
 #include "Log.hpp"
 
 namespace dral {
 
 void LifetimeData::Validate() {
-  const auto repair = [](auto& field, bool valid, auto defaultValue, std::string_view name) {
-    if (!valid) {
-      field = defaultValue;
-      KESP_LOG("LifetimeData", LogRepair)
-          << "LifetimeData::Validate() setting name: " << name << " to default = " << defaultValue;
-    }
-  };
-  const auto temperature = [](std::int16_t value) {
-    return LifetimeMinTemp <= value && value <= LifetimeMaxTemp;
-  };
-  // The top bit must be clear: no pack has 32.8 V.
-  const auto packVoltage = [](std::uint16_t value) { return value <= 0x7FFFU; };
-  const auto current = [](std::int16_t value) {
-    return LifetimeMinCurrent <= value && value <= LifetimeMaxCurrent;
-  };
-
-  repair(maxTemp, temperature(maxTemp), DefaultResetMaxTemp, "maxTemp");
-  repair(minTemp, temperature(minTemp), DefaultResetMinTemp, "minTemp");
-  repair(maxPackVoltage, packVoltage(maxPackVoltage), DefaultResetMaxPackVoltage, "maxPackVoltage");
-  repair(minPackVoltage, packVoltage(minPackVoltage), DefaultResetMinPackVoltage, "minPackVoltage");
-  repair(maxChargeCurrent, current(maxChargeCurrent), DefaultResetMaxChargeCurrent,
-         "maxChargeCurrent");
-  repair(maxDischargeCurrent, current(maxDischargeCurrent), DefaultResetMaxDischargeCurrent,
-         "maxDischargeCurrent");
+  for (const LifetimeField& field : LifetimeFields) {
+    std::visit(
+        [this, &field](auto member) {
+          auto& value = this->*member;
+          if (value < field.least || value > field.most) {
+            value = static_cast<std::remove_reference_t<decltype(value)>>(field.defaultValue);
+            KESP_LOG("LifetimeData", LogRepair)
+                << "LifetimeData::Validate() setting name: " << field.name
+                << " to default = " << field.defaultValue;
+          }
+        },
+        field.member);
+  }
 }
 
 std::string LifetimeData::ToString() const {
   // Not a string stream, which would group digits as the global locale does.
-  std::string text;
-  const auto add = [&text](const char* name, int value) {
-    text.append(name).append(std::to_string(value));
-  };
-  add("dral::LifetimeData:    maxTemp=", maxTemp);
-  add(" , minTemp=", minTemp);
-  add(" , maxPackVoltage=", maxPackVoltage);
-  add(" , minPackVoltage=", minPackVoltage);
-  add(" , maxChargeCurrent=", maxChargeCurrent);
-  add(" , maxDischargeCurrent=", maxDischargeCurrent);
+  std::string text = "dral::LifetimeData: ";
+  std::string_view before = "   ";
+  for (const LifetimeField& field : LifetimeFields) {
+    const int value = std::visit([this](auto member) { return int{this->*member}; }, field.member);
+    text.append(before).append(field.name).append("=").append(std::to_string(value));
+    before = " , ";
+  }
   return text.append("\n");
 }
 

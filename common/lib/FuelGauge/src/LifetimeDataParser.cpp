@@ -1,39 +1,45 @@
 // SPDX-License-Identifier: MIT
 #include "LifetimeDataParser.hpp"
 
-#include <cstdint>
 #include <fstream>
 #include <istream>
 #include <locale>
+#include <type_traits>
 #include <utility>
+#include <variant>
 
 #include "Decimal.hpp"
+#include "LifetimeFields.hpp"
 #include "Log.hpp"
 
 namespace dral {
 namespace {
 
-// Each keeps the low 16 bits of the number: `LifetimeData::Validate` judges the outcome.
-template <std::int16_t LifetimeData::*Field>
-void SetSigned(const std::string& text, LifetimeData& data) {
-  data.*Field = static_cast<std::int16_t>(DecimalToInt32(text));
-}
-
-template <std::uint16_t LifetimeData::*Field>
-void SetUnsigned(const std::string& text, LifetimeData& data) {
-  data.*Field = static_cast<std::uint16_t>(DecimalToUint64(text));
+// Keeps the low 16 bits of the number: `LifetimeData::Validate` judges the outcome.
+LifetimeDataParser::Setter SetterOf(const LifetimeField& field) {
+  return std::visit(
+      [](auto member) -> LifetimeDataParser::Setter {
+        return [member](const std::string& text, LifetimeData& data) {
+          using Value = std::remove_reference_t<decltype(data.*member)>;
+          if constexpr (std::is_unsigned_v<Value>) {
+            data.*member = static_cast<Value>(DecimalToUint64(text));
+          } else {
+            data.*member = static_cast<Value>(DecimalToInt32(text));
+          }
+        };
+      },
+      field.member);
 }
 
 }  // namespace
 
-const std::unordered_map<std::string, LifetimeDataParser::Setter> LifetimeDataParser::mapping = {
-    {"maxTemp", SetSigned<&LifetimeData::maxTemp>},
-    {"minTemp", SetSigned<&LifetimeData::minTemp>},
-    {"maxPackVoltage", SetUnsigned<&LifetimeData::maxPackVoltage>},
-    {"minPackVoltage", SetUnsigned<&LifetimeData::minPackVoltage>},
-    {"maxChargeCurrent", SetSigned<&LifetimeData::maxChargeCurrent>},
-    {"maxDischargeCurrent", SetSigned<&LifetimeData::maxDischargeCurrent>},
-};
+const std::unordered_map<std::string, LifetimeDataParser::Setter> LifetimeDataParser::mapping = [] {
+  std::unordered_map<std::string, Setter> setters;
+  for (const LifetimeField& field : LifetimeFields) {
+    setters.emplace(field.name, SetterOf(field));
+  }
+  return setters;
+}();
 
 std::istream& operator>>(std::istream& is, LifetimeDataParser::kv_pair& pair) {
   return is >> pair.key >> pair.value;

@@ -19,7 +19,8 @@ function(install_library target)
     EXPORT_NAME ${name}
     VERSION ${PROJECT_VERSION}
     SOVERSION ${PROJECT_VERSION_MAJOR}
-    INSTALL_RPATH $ORIGIN)
+    INSTALL_RPATH $ORIGIN
+    POSITION_INDEPENDENT_CODE ON) # a static library may become a part of a shared one
   if(NOT KESP_INSTALL)
     return()
   endif()
@@ -34,6 +35,10 @@ function(install_library target)
           DESTINATION ${package_dir})
 
   set(description "${${target}_DESCRIPTION}")
+  set(requires "") # a shared library finds what it needs itself
+  if(NOT BUILD_SHARED_LIBS)
+    set(requires "${${target}_REQUIRES}")
+  endif()
   configure_file(${PROJECT_SOURCE_DIR}/cmake/package.pc.in ${target}.pc @ONLY)
   install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${target}.pc
           DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)

@@ -8,7 +8,7 @@ if(KESP_TESTS)
   endif()
   if(NOT GTest_FOUND)
     # Debian's cross compilers come without one, but its sources build for all.
-    add_subdirectory(/usr/src/googletest googletest EXCLUDE_FROM_ALL SYSTEM)
+    add_subdirectory(/usr/src/googletest googletest EXCLUDE_FROM_ALL)
   endif()
   include(GoogleTest)
 endif()

@@ -20,7 +20,7 @@ class LogClient {
   /// Thread-safe.
   static bool LevelIsEnabled(LogLevel level);
 
-  /// @param source, function must outlive the record
+  /// Keeps no copy: @p source and @p function must outlive the record.
   LogClient(std::string_view source, std::string_view function, int line, LogLevel level,
             LogCategory category);
   /// Emits the record (see `LogOutput`), in whatever state it is; throws nothing.

@@ -13,10 +13,10 @@ namespace dral {
 struct LogRecord {
   std::string_view source;    ///< the source file
   std::string_view function;  ///< the function's unqualified name
-  int line = 0;
-  LogLevel level{};
-  LogCategory category{};
-  std::string text;
+  int line = 0;               ///< in that file
+  LogLevel level{};           ///< how much it matters
+  LogCategory category{};     ///< as the record's author gave it
+  std::string text;           ///< the pieces, joined
 };
 
 /// Where this process's records go, and which of them.

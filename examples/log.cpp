@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
-// Takes the library's log records: here those on a field that an override file does not name.
+// Takes the library's log records: here those on a field that an override file does not name. Then it is quiet.
+#include <Bq27542FuelGauge.hpp>
+#include <FuelGaugeNames.hpp>
 #include <LogOutput.hpp>
 #include <OpenFuelGauge.hpp>
 #include <fstream>
@@ -16,4 +18,9 @@ int main() {
   std::ofstream("lifetime.conf") << "maxTemp 550\nminTemp -100\nmaxPackVoltage 4400\n"
                                  << "minPackVoltage 2800\nmaxChargeCurrent 2500\n";
   OpenFuelGauge("lifetime.conf");
+
+  // A gauge that is away may be asked as often as you like.
+  LogOutput::SetLevel(LogLevel{0});
+  Bq27542FuelGauge away("", Bq27542FuelGauge::PropertyMapAt("away"));
+  std::cout << NameOf(away.Get<int>(FuelGaugeProperty::VoltageNow).first) << "\n";
 }

@@ -2,10 +2,10 @@
 /* The kernel's style: clang-format knows another. */
 /* clang-format off */
 /*
- * A BQ27542 fuel gauge without the chip: an I2C bus of its own answers as one,
- * so that the kernel's driver bq27xxx_battery serves it as
- * /sys/class/power_supply/bq27542-0. lifetime_data is added there, the record
- * that only vendors' drivers offer.
+ * A BQ27542 fuel gauge without the chip: an I2C bus of its own answers as one.
+ * Once "bq27542 0x55" is written to the new_device of that bus, the kernel's
+ * driver bq27xxx_battery serves it as /sys/class/power_supply/bq27542-0.
+ * lifetime_data is added there, the record that only vendors' drivers offer.
  *
  * Each file in /sys/devices/gauge-sim is a number: a register of the chip in
  * the chip's own unit, or a fault. A fault that is an error takes its errno as
@@ -242,10 +242,8 @@ static int bus_event(struct notifier_block *block, unsigned long event,
 	if (event != BUS_NOTIFY_BOUND_DRIVER || chip->parent != &bus.dev)
 		return NOTIFY_DONE;
 	supply = device_find_child_by_name(chip, SUPPLY_NAME);
-	if (!supply) {
-		dev_err(chip, "no power supply " SUPPLY_NAME "\n");
+	if (!supply) /* declared as another chip */
 		return NOTIFY_DONE;
-	}
 	if (sysfs_create_bin_file(&supply->kobj, &bin_attr_lifetime_data))
 		dev_err(chip, "no lifetime_data\n");
 	put_device(supply);
@@ -254,7 +252,6 @@ static int bus_event(struct notifier_block *block, unsigned long event,
 
 static struct notifier_block bus_notifier = { .notifier_call = bus_event };
 static struct device *simulation;
-static struct i2c_client *client;
 
 static int create_files(struct knob *knobs, int count)
 {
@@ -268,9 +265,6 @@ static int create_files(struct knob *knobs, int count)
 
 static int __init gauge_sim_init(void)
 {
-	static const struct i2c_board_info chip = {
-		I2C_BOARD_INFO("bq27542", CHIP_ADDRESS)
-	};
 	int err;
 
 	simulation = root_device_register("gauge-sim");
@@ -289,15 +283,8 @@ static int __init gauge_sim_init(void)
 	err = i2c_add_adapter(&bus);
 	if (err)
 		goto err_notifier;
-	client = i2c_new_client_device(&bus, &chip);
-	if (IS_ERR(client)) {
-		err = PTR_ERR(client);
-		goto err_bus;
-	}
 	return 0;
 
-err_bus:
-	i2c_del_adapter(&bus);
 err_notifier:
 	bus_unregister_notifier(&i2c_bus_type, &bus_notifier);
 err_device:
@@ -308,7 +295,6 @@ module_init(gauge_sim_init);
 
 static void __exit gauge_sim_exit(void)
 {
-	i2c_unregister_device(client);
 	i2c_del_adapter(&bus);
 	bus_unregister_notifier(&i2c_bus_type, &bus_notifier);
 	root_device_unregister(simulation);

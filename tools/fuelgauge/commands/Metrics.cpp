@@ -29,7 +29,9 @@ std::vector<GaugeOptions> Gauges(const Request& request, bool all) {
     gauges.push_back({device, request.lifetimeFile});
   }
   for (const Supply& supply : all ? Batteries() : std::vector<Supply>()) {
-    gauges.push_back({supply.Name(), request.lifetimeFile});
+    if (!supply.IsOfDevice()) {
+      gauges.push_back({supply.Name(), request.lifetimeFile});
+    }
   }
   return gauges;
 }
@@ -75,7 +77,7 @@ ExitStatus Metrics(const Request& request, const MetricsOptions& options) {
 
 Action AddMetrics(CLI::App& parser) {
   const auto options = std::make_shared<MetricsOptions>();
-  parser.add_flag("--all", options->all, "Every battery of the kernel");
+  parser.add_flag("--all", options->all, "Every battery of the system");
   parser
       .add_option("--output", options->output,
                   "Replace FILE atomically instead of printing; no link is followed")

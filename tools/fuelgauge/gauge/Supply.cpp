@@ -30,6 +30,16 @@ std::vector<Supply> Supplies() {
   return {folders.gl_pathv, folders.gl_pathv + folders.gl_pathc};
 }
 
+// Empty when it cannot be read: a supply that is going, or a folder that is none.
+std::string FirstLine(const std::string& path) {
+  try {
+    const std::string text = ContentsOf(path);
+    return text.substr(0, text.find('\n'));
+  } catch (const UsageError&) {
+    return "";
+  }
+}
+
 bool IsPath(const std::string& device) {
   return device == "." || device == ".." || device.find('/') != std::string::npos;
 }
@@ -45,12 +55,11 @@ std::string Supply::Name() const {
 }
 
 std::string Supply::Type() const {
-  try {
-    const std::string text = ContentsOf(folder + "/type");
-    return text.substr(0, text.find('\n'));
-  } catch (const UsageError&) {
-    return "";  // a supply that is going, or a folder that is none
-  }
+  return FirstLine(folder + "/type");
+}
+
+bool Supply::IsOfDevice() const {
+  return FirstLine(folder + "/scope") == "Device";
 }
 
 // A vendor's driver for one of these gauges has a name like the kernel's, bq27xxx-battery. A gauge on a
@@ -88,8 +97,8 @@ std::vector<Supply> Batteries() {
 std::string SuppliesForPeople() {
   std::string list;
   for (const Supply& supply : Supplies()) {
-    list +=
-        Concat(list.empty() ? "the supplies are " : ", ", supply.Name(), " (", supply.Type(), ")");
+    list += Concat(list.empty() ? "the supplies are " : ", ", supply.Name(), " (", supply.Type(),
+                   supply.IsOfDevice() ? " of a device)" : ")");
   }
   return list.empty() ? Concat("there is no supply in ", SupplyClass) : list;
 }

@@ -23,6 +23,9 @@ class Supply {
   /// @return its type, such as "Battery", "Mains" or "USB"; empty for a folder that does not say
   std::string Type() const;
 
+  /// @return whether it powers a device of its own, such as a wireless mouse, and not the system
+  bool IsOfDevice() const;
+
   /// @return whether a driver other than the kernel's for this family of gauges serves it. What is known of
   ///         the gauge does not hold there. A folder that names no driver, a copy say, is ours.
   bool HasOtherDriver() const;

@@ -7,11 +7,10 @@
 
 #include "commands/Commands.hpp"
 #include "gauge/Concat.hpp"
-#include "gauge/UsageError.hpp"
+#include "gauge/ToolError.hpp"
 #include "judging/Findings.hpp"
 #include "judging/Limit.hpp"
 #include "output/Json.hpp"
-#include "output/Message.hpp"
 #include "output/Text.hpp"
 
 namespace fuelgauge {
@@ -113,12 +112,11 @@ ExitStatus Check(const Gauge& gauge, const CheckOptions& options) {
     PrintForPeople(findings, readings);
   }
   if (!battery) {
-    Complain(Concat("'", gauge.TheSupply().Name(), "' is no battery: its type is '", type, "'"));
-    return ExitStatus::FileError;
+    throw ToolError(ExitStatus::FileError, Concat("'", gauge.TheSupply().Name(),
+                                                  "' is no battery: its type is '", type, "'"));
   }
   if (!judged) {
-    Complain(gauge.Missing(readings));
-    return ToExitStatus(readings.Telling().status);
+    throw ToolError(ToExitStatus(readings.Telling().status), gauge.Missing(readings));
   }
   const Severity least = Severities.at(options.severity);
   const bool wrong = std::any_of(findings.begin(), findings.end(), [least](const Finding& each) {
@@ -135,7 +133,7 @@ void AddLimit(CLI::App& parser, const std::shared_ptr<CheckOptions>& options, co
         options->limits.push_back(LimitOf(bound, text));
       }
     } catch (const UsageError& error) {
-      throw CLI::ValidationError(name, error.Text());
+      throw CLI::ValidationError(name, error.text);
     }
   };
   parser.add_option_function<std::vector<std::string>>(name, add, description)

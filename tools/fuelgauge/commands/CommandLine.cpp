@@ -13,11 +13,10 @@
 #include <utility>
 #include <vector>
 
-#include "commands/CommandFailure.hpp"
 #include "commands/Commands.hpp"
 #include "commands/NotEmpty.hpp"
 #include "gauge/Concat.hpp"
-#include "gauge/UsageError.hpp"
+#include "gauge/ToolError.hpp"
 #include "output/Message.hpp"
 
 namespace fuelgauge {
@@ -117,11 +116,10 @@ ExitStatus Run(int argc, char** argv) {
   const std::vector<std::string> words = Words(argc, argv);
   try {
     app.parse(std::vector<std::string>(words));
+  } catch (const CLI::Success& help) {  // or the version
+    app.exit(help);
+    return ExitStatus::Success;
   } catch (const CLI::ParseError& error) {
-    if (error.get_exit_code() == static_cast<int>(CLI::ExitCodes::Success)) {
-      app.exit(error);  // --help or --version: prints it
-      return ExitStatus::Success;
-    }
     throw UsageError(Explain(error, app, words));
   }
   if (!action) {
@@ -151,11 +149,8 @@ GaugeOptions Request::One() const {
 ExitStatus RunCommandLine(int argc, char** argv) {
   try {
     return Run(argc, argv);
-  } catch (const UsageError& error) {
-    Complain(error.Text());
-    return ExitStatus::Usage;
-  } catch (const CommandFailure& error) {
-    Complain(error.what());
+  } catch (const ToolError& error) {
+    Complain(error.text);
     return error.status;
   } catch (const std::bad_alloc&) {
     std::cerr << "fuelgauge: out of memory\n";  // needs none

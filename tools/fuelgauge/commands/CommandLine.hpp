@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "commands/ExitStatus.hpp"
+#include "gauge/ExitStatus.hpp"
 
 namespace fuelgauge {
 

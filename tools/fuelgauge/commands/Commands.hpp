@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "commands/ExitStatus.hpp"
+#include "gauge/ExitStatus.hpp"
 #include "gauge/Gauge.hpp"
 
 namespace fuelgauge {

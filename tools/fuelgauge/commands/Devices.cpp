@@ -2,9 +2,8 @@
 #include <memory>
 
 #include "commands/Commands.hpp"
-#include "gauge/UsageError.hpp"
+#include "gauge/ToolError.hpp"
 #include "output/Json.hpp"
-#include "output/Message.hpp"
 #include "output/Table.hpp"
 #include "output/Text.hpp"
 
@@ -30,8 +29,7 @@ ExitStatus Devices(bool json) {
     Print(answer);
   }
   if (answer.empty()) {
-    Complain("no battery; " + SuppliesForPeople());
-    return ExitStatus::FileError;
+    throw ToolError(ExitStatus::FileError, "no battery; " + SuppliesForPeople());
   }
   return ExitStatus::Success;
 }

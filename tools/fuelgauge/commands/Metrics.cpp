@@ -6,7 +6,7 @@
 #include "commands/Commands.hpp"
 #include "commands/NotEmpty.hpp"
 #include "gauge/Concat.hpp"
-#include "gauge/UsageError.hpp"
+#include "gauge/ToolError.hpp"
 #include "output/Exposition.hpp"
 #include "output/Message.hpp"
 #include "output/OutputFile.hpp"
@@ -56,19 +56,13 @@ ExitStatus Metrics(const Request& request, const MetricsOptions& options) {
     }
   }
   const std::string text = Exposition(supplies);
-  try {
-    if (options.output) {
-      PutInPlace(*options.output, text);
-    } else {
-      std::cout << text;
-    }
-  } catch (const OutputError& error) {
-    Complain(error.what());
-    return ExitStatus::OutputError;
+  if (options.output) {
+    PutInPlace(*options.output, text);
+  } else {
+    std::cout << text;
   }
   if (supplies.empty()) {
-    Complain("no battery; " + SuppliesForPeople());
-    return ExitStatus::FileError;
+    throw ToolError(ExitStatus::FileError, "no battery; " + SuppliesForPeople());
   }
   return status;
 }

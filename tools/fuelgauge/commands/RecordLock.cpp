@@ -8,9 +8,9 @@
 #include <chrono>
 #include <thread>
 
-#include "commands/CommandFailure.hpp"
 #include "gauge/Concat.hpp"
 #include "gauge/RegularFile.hpp"
+#include "gauge/ToolError.hpp"
 
 namespace fuelgauge {
 namespace {
@@ -18,7 +18,7 @@ namespace {
 int OpenToLock(const std::string& path, const Property& property) {
   const std::string refusal = Unfit(path);
   if (!refusal.empty()) {
-    throw CommandFailure(ExitStatus::FileError, Concat(property.name, ": not written: ", refusal));
+    throw ToolError(ExitStatus::FileError, Concat(property.name, ": not written: ", refusal));
   }
   return ::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
 }
@@ -31,10 +31,9 @@ RecordLock::RecordLock(const Gauge& gauge, const Property& property)
   const auto end = std::chrono::steady_clock::now() + Patience;
   while (::flock(file, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK) {
     if (std::chrono::steady_clock::now() >= end) {
-      throw CommandFailure(
-          ExitStatus::Busy,
-          Concat("not written: waited ", Patience.count(),
-                 " s for another process, which holds a lock on '", gauge.File(property), "'"));
+      throw ToolError(ExitStatus::Busy, Concat("not written: waited ", Patience.count(),
+                                               " s for another process, which holds a lock on '",
+                                               gauge.File(property), "'"));
     }
     std::this_thread::sleep_for(std::chrono::milliseconds(20));
   }

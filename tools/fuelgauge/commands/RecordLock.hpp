@@ -12,7 +12,7 @@ class RecordLock {
  public:
   /// Waits a few seconds for another process. A file that cannot be opened or locked is left unlocked:
   /// the read or the write that follows says what is wrong with it.
-  /// @throws CommandFailure when another process keeps it, or the file is none that may be opened
+  /// @throws ToolError when another process keeps it, or the file is none that may be opened
   RecordLock(const Gauge& gauge, const Property& property);
 
  private:

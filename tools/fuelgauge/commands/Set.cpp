@@ -3,13 +3,12 @@
 #include <memory>
 #include <set>
 
-#include "commands/CommandFailure.hpp"
 #include "commands/Commands.hpp"
 #include "commands/RecordLock.hpp"
 #include "commands/WriteOutcome.hpp"
 #include "gauge/Concat.hpp"
 #include "gauge/LifetimeField.hpp"
-#include "gauge/UsageError.hpp"
+#include "gauge/ToolError.hpp"
 
 namespace fuelgauge {
 namespace {
@@ -38,8 +37,8 @@ ExitStatus Set(const Gauge& gauge, const SetOptions& options) {
   const RecordLock lock(gauge, property);
   const Reading held = gauge.Read(property);
   if (held.Record() == nullptr) {
-    throw CommandFailure(ToExitStatus(held.status),
-                         Concat(property.name, ": not written: ", gauge.Reason(held)));
+    throw ToolError(ToExitStatus(held.status),
+                    Concat(property.name, ": not written: ", gauge.Reason(held)));
   }
   record = *held.Record();
   for (const std::string& value : options.values) {

@@ -5,7 +5,7 @@
 
 #include "gauge/Concat.hpp"
 #include "gauge/Number.hpp"
-#include "gauge/UsageError.hpp"
+#include "gauge/ToolError.hpp"
 
 namespace fuelgauge {
 

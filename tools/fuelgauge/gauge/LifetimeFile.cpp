@@ -7,7 +7,7 @@
 
 #include "gauge/LifetimeField.hpp"
 #include "gauge/RegularFile.hpp"
-#include "gauge/UsageError.hpp"
+#include "gauge/ToolError.hpp"
 
 namespace fuelgauge {
 namespace {
@@ -40,7 +40,7 @@ dral::LifetimeData ReadLifetimeFile(const std::string& path) {
   try {
     return Parse(ContentsOf(path));
   } catch (const UsageError& error) {
-    throw UsageError("lifetime file '" + path + "': " + error.Text());
+    throw UsageError("lifetime file '" + path + "': " + error.text);
   }
 }
 

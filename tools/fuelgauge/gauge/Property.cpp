@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "gauge/Concat.hpp"
-#include "gauge/UsageError.hpp"
+#include "gauge/ToolError.hpp"
 
 namespace fuelgauge {
 

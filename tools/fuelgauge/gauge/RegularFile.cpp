@@ -10,7 +10,7 @@
 
 #include "gauge/Descriptor.hpp"
 #include "gauge/Errors.hpp"
-#include "gauge/UsageError.hpp"
+#include "gauge/ToolError.hpp"
 
 namespace fuelgauge {
 namespace {

@@ -13,7 +13,7 @@
 
 #include "gauge/Concat.hpp"
 #include "gauge/RegularFile.hpp"
-#include "gauge/UsageError.hpp"
+#include "gauge/ToolError.hpp"
 
 namespace fuelgauge {
 namespace {

@@ -15,6 +15,7 @@
 
 #include "gauge/Descriptor.hpp"
 #include "gauge/Number.hpp"
+#include "gauge/ToolError.hpp"
 
 namespace fuelgauge {
 namespace {
@@ -66,7 +67,8 @@ void PutInPlace(const std::string& path, std::string_view text) {
     }));
     struct stat found {};
     const int error = ::fstatat(folder, name.c_str(), &found, AT_SYMLINK_NOFOLLOW) == 0 ? 0 : errno;
-    const OutputError irregular("'" + path + outcome + "it is not a regular file");
+    const ToolError irregular(ExitStatus::OutputError,
+                              "'" + path + outcome + "it is not a regular file");
     if (name.empty() || (error == 0 && !S_ISREG(found.st_mode))) {
       throw irregular;
     }
@@ -92,7 +94,7 @@ void PutInPlace(const std::string& path, std::string_view text) {
       return result != 0 && errno == EINVAL ? 0 : result;  // this file system syncs no folders
     });
   } catch (const std::system_error& failure) {
-    throw OutputError("'" + path + outcome + failure.code().message());
+    throw ToolError(ExitStatus::OutputError, "'" + path + outcome + failure.code().message());
   }
 }
 

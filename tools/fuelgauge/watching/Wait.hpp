@@ -3,7 +3,7 @@
 
 #include <chrono>
 
-#include "commands/ExitStatus.hpp"
+#include "gauge/ExitStatus.hpp"
 
 namespace fuelgauge {
 

@@ -12,8 +12,8 @@
 #include "Target.hpp"
 #include "TemporaryFolder.hpp"
 #include "commands/Commands.hpp"
-#include "output/CsvSink.hpp"
 #include "output/Json.hpp"
+#include "output/LineSink.hpp"
 
 using namespace fuelgauge;
 
@@ -88,7 +88,8 @@ void Target(const std::string& input) {
   Require(Json::parse(run(AddList, "--json")).size() == Properties.size() - 1);
   RequireMetrics(run(AddMetrics, ""));
   const Readings readings = Gauge(request.One()).ReadAll();
-  std::istringstream csv = Printed([&] { (CsvSink().Begin(), CsvSink().Sample("now", readings)); });
+  std::istringstream csv =
+      Printed([&] { std::cout << CsvHeader() + "\n" + CsvLine("now", readings); });
   std::string header, line, more;
   std::getline(std::getline(csv, header), line);
   line = Unquoted(line, false);

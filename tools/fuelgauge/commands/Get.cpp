@@ -2,7 +2,6 @@
 #include <iostream>
 #include <map>
 #include <memory>
-#include <variant>
 
 #include "commands/Commands.hpp"
 #include "gauge/Concat.hpp"
@@ -26,20 +25,15 @@ struct GetOptions {
   bool json = false;
 };
 
-// Prints the bare value, for scripts.
-struct PrintBare {
-  void operator()(bool flag) const { std::cout << (flag ? "true" : "false") << "\n"; }
-  void operator()(const dral::LifetimeData& data) const {
+void PrintBare(const Reading& reading) {
+  if (const auto* record = reading.Record()) {
     for (const LifetimeField& field : LifetimeFields) {  // just what an override file holds
-      std::cout << field.name << " " << field.Value(data) << "\n";
+      std::cout << field.name << " " << field.Value(*record) << "\n";
     }
+  } else {
+    std::cout << TerminalSafe(reading.Bare()) << "\n";
   }
-  void operator()(const std::string& text) const { std::cout << TerminalSafe(text) << "\n"; }
-  template <typename T>
-  void operator()(T number) const {
-    std::cout << number << "\n";
-  }
-};
+}
 
 ExitStatus Get(const Gauge& gauge, const GetOptions& options) {
   const Property& property = FindProperty(options.property);
@@ -51,7 +45,7 @@ ExitStatus Get(const Gauge& gauge, const GetOptions& options) {
   if (options.json) {
     Print({{options.property, ToJson(reading)}});
   } else if (reading.Succeeded()) {
-    std::visit(PrintBare{}, reading.value);
+    PrintBare(reading);
   }
   if (reading.Succeeded() && type == Type::Uint) {
     const std::string text = gauge.Read(property, Type::String).ForPeople();

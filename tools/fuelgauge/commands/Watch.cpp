@@ -14,8 +14,6 @@
 #include "commands/Commands.hpp"
 #include "gauge/Concat.hpp"
 #include "gauge/Number.hpp"
-#include "output/CsvSink.hpp"
-#include "output/JsonSink.hpp"
 #include "output/LineSink.hpp"
 #include "output/Screen.hpp"
 #include "output/Timestamp.hpp"
@@ -64,15 +62,15 @@ bool DrawsInPlace() {
 
 std::unique_ptr<Sink> SinkFor(const WatchOptions& options) {
   if (options.csv) {
-    return std::make_unique<CsvSink>();
+    return std::make_unique<LineSink>(CsvLine, false, CsvHeader());
   }
   if (options.json) {
-    return std::make_unique<JsonSink>();
+    return std::make_unique<LineSink>(JsonLine, false);
   }
   if (DrawsInPlace()) {
     return std::make_unique<Screen>();
   }
-  return std::make_unique<LineSink>();
+  return std::make_unique<LineSink>(TextLine, true);
 }
 
 // Tells once that the gauge is gone, and once that it is back.
@@ -120,7 +118,6 @@ bool WaitUntil(steady_clock::time_point next, const Wait& wait, Sink& sink) {
 ExitStatus Watch(const Gauge& gauge, const WatchOptions& options) {
   const Wait wait;
   const std::unique_ptr<Sink> sink = SinkFor(options);
-  sink->Begin();
   const Summary::Seconds seconds(options.intervalSeconds);
   const auto interval = std::chrono::duration_cast<steady_clock::duration>(seconds);
   Summary summary(seconds);

@@ -2,8 +2,10 @@
 #include "gauge/Reading.hpp"
 
 #include <cerrno>
+#include <ios>
 #include <variant>
 
+#include "gauge/Concat.hpp"
 #include "gauge/Errors.hpp"
 
 namespace fuelgauge {
@@ -23,7 +25,7 @@ std::string Shortened(std::string_view text) {
   while (end > 0 && (static_cast<unsigned char>(text[end]) & 0xC0U) == 0x80U) {
     --end;
   }
-  return std::string(text.substr(0, end)).append("...");
+  return Concat(text.substr(0, end), "...");
 }
 
 }  // namespace
@@ -48,18 +50,21 @@ const dral::LifetimeData* Reading::Record() const {
   return Succeeded() ? std::get_if<dral::LifetimeData>(&value) : nullptr;
 }
 
+std::string Reading::Bare() const {
+  const bool none = !Succeeded() || Record() != nullptr;
+  const auto bare = [](const auto& held) { return Concat(std::boolalpha, held); };
+  return none ? "" : std::visit(bare, value);
+}
+
 std::string Reading::ForPeople() const {
   if (!Succeeded()) {
     return "-";
-  }
-  if (const auto text = Text()) {
-    return std::string(*text);
   }
   if (const bool* flag = std::get_if<bool>(&value)) {
     return *flag ? "yes" : "no";
   }
   const auto number = Number();
-  return number ? fuelgauge::ForPeople(*number, property->unit) : "";
+  return number ? fuelgauge::ForPeople(*number, property->unit) : Bare();
 }
 
 std::string Reading::Reason() const {

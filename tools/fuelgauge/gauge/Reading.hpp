@@ -32,6 +32,10 @@ struct Reading {
   /// @return the record; null when it was not read or is no record
   const dral::LifetimeData* Record() const;
 
+  /// @return the value as programs take it, such as "3786000", "true" or "Full"; nothing when it was not
+  ///         read, or for the record
+  std::string Bare() const;
+
   /// @return the value as people say it, such as "3.786 V", "yes" or "Full"; "-" when it was not
   ///         read, nothing for the record
   std::string ForPeople() const;

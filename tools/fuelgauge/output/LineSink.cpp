@@ -3,27 +3,79 @@
 
 #include <iostream>
 
+#include "gauge/Concat.hpp"
+#include "output/Json.hpp"
 #include "output/Text.hpp"
 
 namespace fuelgauge {
 
 using enum dral::FuelGaugeProperty;
 
-void Tell(const Summary& summary) {
-  for (const std::string& line : summary.Lines()) {
-    Complain(line);
+LineSink::LineSink(Line line, bool forPeople, const std::string& header)
+    : line(line), forPeople(forPeople) {
+  if (!header.empty()) {
+    std::cout << header << "\n" << std::flush;  // the first read may take its time
   }
 }
 
 void LineSink::Sample(const std::string& time, const Readings& readings) {
-  if (!readings.AnySucceeded()) {
-    return;
+  if (readings.AnySucceeded()) {
+    std::cout << line(time, readings) << "\n";
   }
-  std::cout << time;
+}
+
+void LineSink::End(const Summary& summary) {
+  if (forPeople) {
+    Sink::End(summary);
+  }
+}
+
+std::string TextLine(const std::string& time, const Readings& readings) {
+  std::string line = time;
   for (const auto id : {Status, StateOfCharge, VoltageNow, CurrentNow, Temperature}) {
-    std::cout << "  " << TerminalSafe(readings[id].ForPeople());
+    line += "  " + TerminalSafe(readings[id].ForPeople());
   }
-  std::cout << "\n";
+  return line;
+}
+
+std::string JsonLine(const std::string& time, const Readings& readings) {
+  Json line = {{"time", time}};
+  for (const Reading& reading : readings) {
+    if (reading.property->type != Type::Lifetime) {
+      line[std::string(reading.property->name)] = ToJson(reading);
+    }
+  }
+  return TerminalSafe(line.dump(-1, ' ', false, Json::error_handler_t::replace));
+}
+
+std::string CsvHeader() {
+  std::string header = "time";
+  for (const Property& property : Properties) {
+    header += property.type == Type::Lifetime ? "" : Concat(",", property.name);
+  }
+  return header;
+}
+
+std::string CsvLine(const std::string& time, const Readings& readings) {
+  std::string line = time;
+  for (const Reading& reading : readings) {
+    if (reading.property->type != Type::Lifetime) {
+      line += "," + CsvField(reading.Bare());
+    }
+  }
+  return line;
+}
+
+std::string CsvField(std::string_view text) {
+  const std::string safe = TerminalSafe(text);
+  if (safe.find_first_of(",\"") == std::string::npos) {
+    return safe;
+  }
+  std::string field = "\"";
+  for (const char byte : safe) {
+    field.append(byte == '"' ? 2 : 1, byte);
+  }
+  return field + "\"";
 }
 
 }  // namespace fuelgauge

@@ -10,7 +10,6 @@
 #include <system_error>
 #include <utility>
 
-#include "output/Columns.hpp"
 #include "output/Text.hpp"
 
 namespace fuelgauge {

@@ -12,7 +12,6 @@
 #include <utility>
 
 #include "gauge/Units.hpp"
-#include "output/Columns.hpp"
 #include "output/Table.hpp"
 
 using dral::FuelGaugeProperty;

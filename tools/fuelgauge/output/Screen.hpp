@@ -29,8 +29,6 @@ class Screen : public Sink {
   /// Draws the last table once more, to fit the window as it is now.
   void Redraw(bool shellWasThere) override;
 
-  void End(const Summary& summary) override { Tell(summary); }
-
  private:
   struct Line {
     std::size_t rank;  // a low window shows those of the lowest

@@ -9,16 +9,13 @@
 
 namespace fuelgauge {
 
-/// Where a watch shows what it sees. Only `Sample` prints to standard output for all kinds.
+/// Where a watch shows what it sees.
 class Sink {
  public:
   Sink() = default;
   virtual ~Sink() = default;
   Sink(const Sink&) = delete;
   Sink& operator=(const Sink&) = delete;
-
-  /// Comes before the first read, which may take its time.
-  virtual void Begin() {}
 
   /// Shows the @p readings of @p time. Programs get none of a gauge that gives nothing.
   virtual void Sample(const std::string& time, const Readings& readings) = 0;
@@ -29,11 +26,12 @@ class Sink {
   /// Comes when the window has another size, or when a shell has used it meanwhile.
   virtual void Redraw(bool /*shellWasThere*/) {}
 
-  /// Tells people the summary; programs have the samples.
-  virtual void End(const Summary& /*summary*/) {}
+  /// Tells people the summary, on standard error.
+  virtual void End(const Summary& summary) {
+    for (const std::string& line : summary.Lines()) {
+      Complain(line);
+    }
+  }
 };
-
-/// Prints the lines of @p summary on standard error.
-void Tell(const Summary& summary);
 
 }  // namespace fuelgauge

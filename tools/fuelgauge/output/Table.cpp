@@ -6,7 +6,6 @@
 
 #include "gauge/LifetimeField.hpp"
 #include "gauge/Units.hpp"
-#include "output/Columns.hpp"
 #include "output/Text.hpp"
 
 namespace fuelgauge {

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "output/Text.hpp"
 
+#include <algorithm>
 #include <nlohmann/json.hpp>
-
-#include "output/Columns.hpp"
 
 namespace fuelgauge {
 namespace {
@@ -30,6 +29,16 @@ char32_t CodePoint(std::string_view bytes) {
   return code;
 }
 
+// Not by wcwidth, which goes by the global locale. Bytes of UTF-8 are in the order of the characters.
+std::size_t ColumnsOf(std::string_view character) {
+  const auto within = [character](std::string_view first, std::string_view end) {
+    return character >= first && character < end;
+  };
+  const bool narrow = character < "\u1100" || within("\u2000", "\u2300") ||  // punctuation, signs
+                      within("\u2500", "\u25A0");                            // boxes, blocks
+  return narrow ? 1 : 2;
+}
+
 }  // namespace
 
 std::string TerminalSafe(std::string_view text) {
@@ -41,15 +50,39 @@ std::string TerminalSafe(std::string_view text) {
     rest.remove_prefix(character.size());
     const char32_t code = CodePoint(character);
     if (!IsControl(code)) {
-      safe.append(character);
+      safe += character;
       continue;
     }
-    safe.append("\\u");
+    safe += "\\u";
     for (const unsigned shift : {12U, 8U, 4U, 0U}) {
-      safe.append(1, Digits[(code >> shift) & 0xFU]);
+      safe += Digits[(code >> shift) & 0xFU];
     }
   }
   return safe;
+}
+
+std::string_view FirstCharacter(std::string_view text) {
+  const auto* const next = std::find_if(text.begin() + 1, text.end(), [](char byte) {
+    return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U;
+  });
+  return text.substr(0, static_cast<std::size_t>(next - text.begin()));
+}
+
+std::size_t Columns(std::string_view text) {
+  std::size_t columns = 0;
+  for (; !text.empty(); text.remove_prefix(FirstCharacter(text).size())) {
+    columns += ColumnsOf(FirstCharacter(text));
+  }
+  return columns;
+}
+
+std::string_view CutTo(std::size_t columns, std::string_view text) {
+  std::string_view rest = text;
+  while (!rest.empty() && ColumnsOf(FirstCharacter(rest)) <= columns) {
+    columns -= ColumnsOf(FirstCharacter(rest));
+    rest.remove_prefix(FirstCharacter(rest).size());
+  }
+  return text.substr(0, text.size() - rest.size());
 }
 
 }  // namespace fuelgauge

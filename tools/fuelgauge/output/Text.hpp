@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -11,5 +12,15 @@ namespace fuelgauge {
 ///         as "\u001b". No text of a device or of a user can then steer a terminal, or be shown in
 ///         another order than it has.
 std::string TerminalSafe(std::string_view text);
+
+/// @return the first character of @p text (UTF-8), which is not empty
+std::string_view FirstCharacter(std::string_view text);
+
+/// @return how many columns of a terminal @p text (UTF-8) takes. A character that some terminals show
+///         narrow and others wide counts as wide.
+std::size_t Columns(std::string_view text);
+
+/// @return as many of the first characters of @p text as fit into @p columns
+std::string_view CutTo(std::size_t columns, std::string_view text);
 
 }  // namespace fuelgauge

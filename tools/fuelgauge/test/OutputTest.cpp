@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "output/Columns.hpp"
-#include "output/CsvSink.hpp"
+#include "output/LineSink.hpp"
 #include "output/Table.hpp"
 #include "output/Text.hpp"
 

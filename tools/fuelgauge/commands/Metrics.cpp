@@ -45,9 +45,10 @@ ExitStatus Metrics(const Request& request, const MetricsOptions& options) {
   for (const GaugeOptions& which : Gauges(request, options.all)) {
     const Gauge gauge(which);
     const std::string name = TerminalSafe(gauge.TheSupply().Name());  // as the label has it
-    const auto [place, isNew] = supplies.try_emplace(name, gauge.ReadAll());
-    if (isNew) {
-      place->second.findings = Findings(place->second.readings);
+    if (!supplies.contains(name)) {
+      Readings readings = gauge.ReadAll();
+      std::vector<Finding> findings = Findings(readings);
+      supplies.insert({name, {std::move(readings), std::move(findings)}});
     } else if (options.all) {
       Complain(Concat("'", name, "' was left out: another supply has the same name"));
       status = ExitStatus::Failure;

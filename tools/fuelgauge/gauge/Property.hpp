@@ -25,7 +25,7 @@ dral::PropertyValue Hint(Type type);
 struct Metric {
   std::string_view name;  ///< behind "fuelgauge_"; empty: none of its own
   std::string_view help;
-  int decimals = 0;
+  std::size_t decimals = 0;
   int factor = 1;
 };
 

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <string_view>
+#include <utility>
 
 #include "gauge/Errors.hpp"
 #include "output/MetricsText.hpp"
@@ -15,14 +16,12 @@ using enum dral::FuelGaugeProperty;
 namespace {
 
 void AddState(MetricsText& text, const Property& property, std::string_view now) {
-  text.Family(property.metric);
   const auto series = property.words.first(property.series);
-  std::vector<std::string_view> states(series.begin(), series.end());
-  if (std::find(states.begin(), states.end(), now) == states.end()) {
-    states.push_back(now);
+  for (const std::string_view state : series) {
+    text.Add(property.metric, state == now ? 1 : 0, {{"state", state}});
   }
-  for (const std::string_view state : states) {
-    text.Sample(state == now ? 1 : 0, {{"state", std::string(state)}});
+  if (std::find(series.begin(), series.end(), now) == series.end()) {
+    text.Add(property.metric, 1, {{"state", now}});
   }
 }
 
@@ -33,35 +32,23 @@ void AddValues(MetricsText& text, const Readings& readings, bool states) {
       continue;
     }
     if (const auto number = reading.Number()) {
-      text.Family(property.metric);
-      text.Sample(std::int64_t{*number} * property.metric.factor);
+      text.Add(property.metric, std::int64_t{*number} * property.metric.factor);
     } else if (const auto now = reading.Text()) {
       AddState(text, property, *now);
     }
   }
 }
 
-void AddRecord(MetricsText& text, const Readings& readings) {
-  const auto* const record = readings.Record();
-  for (const LifetimeField& field : LifetimeFields) {
-    if (record != nullptr) {
-      text.Family(field.quantity.metric);
-      text.Sample(field.Value(*record), {{"extreme", std::string(field.extreme)}});
-    }
-  }
-}
-
 void AddInfo(MetricsText& text, const Readings& readings) {
   MetricsText::Labels labels;
-  if (const auto manufacturer = readings.Text(Name)) {
-    labels.emplace_back("manufacturer", *manufacturer);
-  }
-  if (const auto technology = readings.Text(Technology)) {
-    labels.emplace_back("technology", *technology);
+  for (const auto& [label, id] :
+       {std::pair("manufacturer", Name), std::pair("technology", Technology)}) {
+    if (const auto word = readings.Text(id)) {
+      labels.emplace_back(label, *word);
+    }
   }
   if (!labels.empty()) {
-    text.Family({"info", "What the gauge says of itself."});
-    text.Sample(1, labels);
+    text.Add({"info", "What the gauge says of itself."}, 1, labels);
   }
 }
 
@@ -77,23 +64,14 @@ std::string ErrorOf(const Reading& reading) {
 }
 
 void AddReads(MetricsText& text, const Readings& readings) {
-  text.Family({"read_success", "Whether the property could be read."});
   for (const Reading& reading : readings) {
-    text.Sample(reading.Succeeded() ? 1 : 0, {{"property", std::string(reading.property->name)}});
-  }
-  for (const Reading& reading : readings) {
+    const std::string_view property = reading.property->name;
+    text.Add({"read_success", "Whether the property could be read."}, reading.Succeeded() ? 1 : 0,
+             {{"property", property}});
     if (!reading.Succeeded()) {
-      text.Family({"read_error", "Why the property could not be read."});
-      text.Sample(1,
-                  {{"property", std::string(reading.property->name)}, {"error", ErrorOf(reading)}});
+      text.Add({"read_error", "Why the property could not be read."}, 1,
+               {{"property", property}, {"error", ErrorOf(reading)}});
     }
-  }
-}
-
-void AddFindings(MetricsText& text, const std::vector<Finding>& findings) {
-  for (const auto& [rule, evidence] : findings) {
-    text.Family({"check_finding", "A rule that the readings break."});
-    text.Sample(1, {{"rule", std::string(rule->name)}, {"severity", NameOf(rule->severity)}});
   }
 }
 
@@ -102,13 +80,21 @@ void AddFindings(MetricsText& text, const std::vector<Finding>& findings) {
 std::string Exposition(const Judged& supplies) {
   MetricsText text;
   for (const auto& [name, judged] : supplies) {
+    const auto& [readings, findings] = judged;
     text.Supply(name);
-    AddInfo(text, judged.readings);
-    AddValues(text, judged.readings, false);
-    AddValues(text, judged.readings, true);
-    AddRecord(text, judged.readings);
-    AddReads(text, judged.readings);
-    AddFindings(text, judged.findings);
+    AddInfo(text, readings);
+    AddValues(text, readings, false);
+    AddValues(text, readings, true);
+    for (const LifetimeField& field : LifetimeFields) {
+      if (const auto* record = readings.Record()) {
+        text.Add(field.quantity.metric, field.Value(*record), {{"extreme", field.extreme}});
+      }
+    }
+    AddReads(text, readings);
+    for (const auto& [rule, evidence] : findings) {
+      text.Add({"check_finding", "A rule that the readings break."}, 1,
+               {{"rule", rule->name}, {"severity", NameOf(rule->severity)}});
+    }
   }
   return text.Text();
 }

@@ -3,7 +3,6 @@
 
 #include <map>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "judging/Findings.hpp"
@@ -12,10 +11,8 @@ namespace fuelgauge {
 
 /// What a gauge gave, and what is wrong with it.
 struct JudgedReadings {
-  explicit JudgedReadings(Readings readings) : readings(std::move(readings)) {}
-
   Readings readings;
-  std::vector<Finding> findings = {};
+  std::vector<Finding> findings;
 };
 
 /// By the names of the supplies.

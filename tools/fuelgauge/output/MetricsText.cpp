@@ -10,12 +10,12 @@ namespace fuelgauge {
 
 namespace {
 
-std::string Quoted(const std::string& value) {
+std::string Quoted(std::string_view value) {
   std::string quoted = "\"";
   for (const char byte : TerminalSafe(value)) {
     quoted.append(byte == '\\' || byte == '"' ? 1 : 0, '\\').append(1, byte);
   }
-  return quoted.append("\"");
+  return quoted + "\"";
 }
 
 std::string WithoutTrailingZeros(std::string digits) {
@@ -28,31 +28,26 @@ std::string WithoutTrailingZeros(std::string digits) {
 
 }  // namespace
 
-void MetricsText::Family(const Metric& metric) {
+void MetricsText::Add(const Metric& metric, std::int64_t number, const Labels& labels) {
   const std::string name = Concat("fuelgauge_", metric.name);
-  const auto found = std::find_if(families.begin(), families.end(),
-                                  [&name](const Block& each) { return each.name == name; });
-  family = static_cast<std::size_t>(found - families.begin());
-  if (found == families.end()) {
-    families.push_back({name, static_cast<std::size_t>(metric.decimals),
-                        Concat("# HELP ", name, " ", metric.help, "\n# TYPE ", name,
-                               name.ends_with("_total") ? " counter\n" : " gauge\n")});
+  auto family = std::find_if(families.begin(), families.end(),
+                             [&name](const Family& each) { return each.name == name; });
+  if (family == families.end()) {
+    family = families.insert(family,
+                             {name, Concat("# HELP ", name, " ", metric.help, "\n# TYPE ", name,
+                                           name.ends_with("_total") ? " counter\n" : " gauge\n")});
   }
-}
-
-void MetricsText::Sample(std::int64_t number, const Labels& labels) {
-  auto& [name, decimals, text] = families.at(family);
-  text += Concat(name, "{power_supply=", Quoted(supply));
+  family->text += Concat(name, "{power_supply=", Quoted(supply));
   for (const auto& [label, value] : labels) {
-    text += Concat(",", label, "=", Quoted(value));
+    family->text += Concat(",", label, "=", Quoted(value));
   }
-  text += Concat("} ", WithoutTrailingZeros(Decimal(number, decimals)), "\n");
+  family->text += Concat("} ", WithoutTrailingZeros(Decimal(number, metric.decimals)), "\n");
 }
 
 std::string MetricsText::Text() const {
   std::string text;
-  for (const Block& block : families) {
-    text += block.text;
+  for (const Family& family : families) {
+    text += family.text;
   }
   return text;
 }

@@ -15,30 +15,25 @@ namespace fuelgauge {
 /// order in which they come.
 class MetricsText {
  public:
-  using Labels = std::vector<std::pair<std::string_view, std::string>>;
+  using Labels = std::vector<std::pair<std::string_view, std::string_view>>;
 
   /// The samples from now on are those of the supply of this @p name.
   void Supply(std::string name) { supply = std::move(name); }
 
-  /// Begins the metric's family, or goes on with it. A name that ends with "_total" is a counter's, any
-  /// other a gauge's.
-  void Family(const Metric& metric);
-
-  /// Adds a sample to the family: @p number divided by ten to the metric's decimals, exactly.
-  void Sample(std::int64_t number, const Labels& labels = {});
+  /// Adds a sample to the metric's family: @p number divided by ten to its decimals, exactly. A name that
+  /// ends with "_total" is a counter's, any other a gauge's.
+  void Add(const Metric& metric, std::int64_t number, const Labels& labels = {});
 
   std::string Text() const;
 
  private:
-  struct Block {
+  struct Family {
     std::string name;
-    std::size_t decimals;
     std::string text;
   };
 
   std::string supply;
-  std::vector<Block> families;
-  std::size_t family = 0;  // the one that samples go to
+  std::vector<Family> families;
 };
 
 }  // namespace fuelgauge

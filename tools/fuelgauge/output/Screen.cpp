@@ -11,12 +11,13 @@
 #include <limits>
 #include <utility>
 
-#include "gauge/Units.hpp"
+#include "gauge/Concat.hpp"
 #include "output/Table.hpp"
 
-using dral::FuelGaugeProperty;
-
 namespace fuelgauge {
+
+using enum dral::FuelGaugeProperty;
+
 namespace {
 
 constexpr std::size_t CourseLength = 40;
@@ -27,26 +28,20 @@ constexpr auto ClearLine = "\x1b[K";
 constexpr auto ClearBelow = "\x1b[J";
 
 // What a low window shows first; then the heading, and then the rest from the top.
-constexpr std::array Important = {FuelGaugeProperty::Status, FuelGaugeProperty::StateOfCharge,
-                                  FuelGaugeProperty::VoltageNow, FuelGaugeProperty::CurrentNow};
+constexpr std::array Important = {Status, StateOfCharge, VoltageNow, CurrentNow};
 constexpr std::size_t HeadingRank = Important.size();
 
-std::size_t Rank(FuelGaugeProperty id) {
+std::size_t Rank(dral::FuelGaugeProperty id) {
   const auto* const found = std::find(Important.begin(), Important.end(), id);
   return found != Important.end() ? static_cast<std::size_t>(found - Important.begin())
                                   : HeadingRank + 1;
 }
 
-struct Window {
-  std::size_t rows;
-  std::size_t columns;
-};
-
 // A serial console may not know its size: it says 0.
-Window WindowNow() {
+std::pair<std::size_t, std::size_t> RowsAndColumns() {
   winsize size{};
   ::ioctl(STDOUT_FILENO, TIOCGWINSZ, &size);
-  return {size.ws_row > 0 ? size.ws_row : 24U, size.ws_col > 0 ? size.ws_col : 80U};
+  return {size.ws_row > 0 ? size.ws_row : 24, size.ws_col > 0 ? size.ws_col : 80};
 }
 
 // Of those that are there; of none, the least is above the greatest.
@@ -71,17 +66,15 @@ std::string SparklineWithLimits(Course numbers, Unit unit, std::size_t most) {
   }
   const std::string from = ForPeople(least, unit);
   const std::string limits = from.substr(0, from.find(' ')) + "…" + ForPeople(greatest, unit);
-  return PadTo(LimitsColumns, limits).append(Sparkline(numbers));
+  return PadTo(LimitsColumns, limits) + Sparkline(numbers);
 }
 
 }  // namespace
 
 std::string Bar(int percent, int width) {
   const int filled = std::clamp(percent, 0, 100) * width / 100;
-  std::string bar = "[";
-  bar.append(static_cast<std::size_t>(filled), '#');
-  bar.append(static_cast<std::size_t>(width - filled), '.');
-  return bar.append("]");
+  return Concat("[", std::string(static_cast<std::size_t>(filled), '#'),
+                std::string(static_cast<std::size_t>(width - filled), '.'), "]");
 }
 
 std::string Sparkline(const Course& numbers) {
@@ -101,19 +94,17 @@ std::vector<Screen::Line> Screen::Table(const std::string& time, const Readings&
     return {{HeadingRank, heading + ": no gauge"}};
   }
   constexpr std::size_t Before = NameColumns + ValueColumns + LimitsColumns + 1;
-  const std::size_t most = std::max(WindowNow().columns, Before + 1) - Before;
+  const std::size_t most = std::max(RowsAndColumns().second, Before + 1) - Before;
   std::vector<Line> lines = {{HeadingRank, heading + "; Ctrl-C ends"}};
   for (const Reading& reading : readings) {
-    const FuelGaugeProperty id = reading.property->id;
+    const auto id = reading.property->id;
     std::string remark;
-    if (id == FuelGaugeProperty::StateOfCharge && reading.Succeeded()) {
+    if (id == StateOfCharge && reading.Succeeded()) {
       remark = Bar(*reading.Number(), 20);
-    } else if (id == FuelGaugeProperty::VoltageNow) {
-      remark = SparklineWithLimits(voltages, reading.property->unit, most);
-    } else if (id == FuelGaugeProperty::CurrentNow) {
-      remark = SparklineWithLimits(currents, reading.property->unit, most);
+    } else if (courses.contains(id)) {
+      remark = SparklineWithLimits(courses.at(id), reading.property->unit, most);
     }
-    if (id != FuelGaugeProperty::LifetimeData) {
+    if (id != LifetimeData) {
       lines.push_back({Rank(id), Row(reading.property->name, reading.ForPeople(), remark)});
     }
   }
@@ -121,14 +112,12 @@ std::vector<Screen::Line> Screen::Table(const std::string& time, const Readings&
 }
 
 void Screen::Sample(const std::string& time, const Readings& readings) {
-  const auto add = [&readings](Course& course, FuelGaugeProperty id) {
+  for (auto& [id, course] : courses) {
     course.push_back(readings.Number(id));
     if (course.size() > CourseLength) {
       course.pop_front();
     }
-  };
-  add(voltages, FuelGaugeProperty::VoltageNow);
-  add(currents, FuelGaugeProperty::CurrentNow);
+  }
   table = Table(time, readings);
   Paint({});
 }
@@ -147,10 +136,10 @@ void Screen::Redraw(bool shellWasThere) {
 }
 
 void Screen::Paint(std::string_view first) {
-  const Window window = WindowNow();
+  const auto [rows, columns] = RowsAndColumns();
   std::size_t above = 0;  // rows: a window made narrower has wrapped the lines that it holds
   for (const std::string& line : drawn) {
-    above += (std::max<std::size_t>(Columns(line), 1) - 1) / window.columns + 1;
+    above += (std::max<std::size_t>(Columns(line), 1) - 1) / columns + 1;
   }
   std::vector<const Line*> shown;
   for (const Line& line : table) {
@@ -158,15 +147,14 @@ void Screen::Paint(std::string_view first) {
   }
   std::stable_sort(shown.begin(), shown.end(),
                    [](const Line* left, const Line* right) { return left->rank < right->rank; });
-  shown.resize(std::min(shown.size(), std::max<std::size_t>(window.rows - 1, 1)));
+  shown.resize(std::min(shown.size(), std::max<std::size_t>(rows - 1, 1)));
   std::sort(shown.begin(), shown.end());
 
-  std::string frame = above > 0 ? "\r\x1b[" + std::to_string(above) + "A" : "";
-  frame += first;
+  std::string frame = Concat(above > 0 ? Concat("\r\x1b[", above, "A") : "", first);
   drawn.clear();
   for (const Line* line : shown) {
-    drawn.emplace_back(CutTo(window.columns - 1, line->text));  // some wrap at the last column
-    frame.append(drawn.back()).append(ClearLine).append("\n");
+    drawn.emplace_back(CutTo(columns - 1, line->text));  // some wrap at the last column
+    frame += Concat(drawn.back(), ClearLine, "\n");
   }
   std::cout << frame << ClearBelow << std::flush;
 }

@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <deque>
+#include <map>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -20,7 +21,6 @@ using Course = std::deque<std::optional<int>>;
 /// restored: between two drawings the cursor waits below the table, whatever ends the program.
 class Screen : public Sink {
  public:
-  /// Draws the table over the last one.
   void Sample(const std::string& time, const Readings& readings) override;
 
   /// Leaves the last table where it is: the next one comes below the text.
@@ -38,8 +38,8 @@ class Screen : public Sink {
   void Paint(std::string_view first);
   std::vector<Line> Table(const std::string& time, const Readings& readings) const;
 
-  Course voltages;
-  Course currents;
+  std::map<dral::FuelGaugeProperty, Course> courses = {{dral::FuelGaugeProperty::VoltageNow, {}},
+                                                       {dral::FuelGaugeProperty::CurrentNow, {}}};
   std::vector<Line> table;
   std::vector<std::string> drawn;
 };

@@ -2,16 +2,16 @@
 #include "output/Timestamp.hpp"
 
 #include <array>
-#include <ctime>
+#include <string_view>
+
+#include "gauge/Concat.hpp"
 
 namespace fuelgauge {
 
-std::chrono::system_clock::time_point Now() {
+std::timespec Now() {
   std::timespec time{};
   static_cast<void>(std::timespec_get(&time, TIME_UTC));  // it knows this base
-  using std::chrono::system_clock;
-  return system_clock::time_point(std::chrono::floor<system_clock::duration>(
-      std::chrono::seconds(time.tv_sec) + std::chrono::nanoseconds(time.tv_nsec)));
+  return time;
 }
 
 std::chrono::duration<double> SinceStart() {
@@ -20,17 +20,13 @@ std::chrono::duration<double> SinceStart() {
   return std::chrono::seconds(time.tv_sec) + std::chrono::nanoseconds(time.tv_nsec);
 }
 
-std::string Timestamp(std::chrono::system_clock::time_point time) {
-  using std::chrono::milliseconds;
-  const auto sinceEpoch = std::chrono::floor<milliseconds>(time.time_since_epoch());
-  const auto second = std::chrono::floor<std::chrono::seconds>(sinceEpoch);
-  const std::time_t whole = second.count();
+std::string Timestamp(const std::timespec& time) {
   std::tm parts{};
-  ::gmtime_r(&whole, &parts);
+  ::gmtime_r(&time.tv_sec, &parts);
   std::array<char, sizeof "2026-11-25T09:30:00"> text{};
   const std::size_t length = std::strftime(text.data(), text.size(), "%Y-%m-%dT%H:%M:%S", &parts);
-  const std::string fraction = std::to_string(1000 + (sinceEpoch - second).count());
-  return std::string(text.data(), length).append(".").append(fraction, 1).append("Z");
+  return Concat(std::string_view(text.data(), length), ".",
+                std::to_string(1000 + time.tv_nsec / 1000000).substr(1), "Z");
 }
 
 }  // namespace fuelgauge

@@ -45,8 +45,7 @@ TEST(Screen, BarsAndSparklinesHoldWhatTheGaugeMaySay) {
 }
 
 TEST(Timestamp, IsInUtcToTheMillisecond) {
-  const std::chrono::system_clock::time_point epoch;
-  EXPECT_EQ(Timestamp(epoch + std::chrono::milliseconds(1005)), "1970-01-01T00:00:01.005Z");
+  EXPECT_EQ(Timestamp({1, 5999999}), "1970-01-01T00:00:01.005Z");
   EXPECT_EQ(Timestamp(Now()), "2040-01-01T00:00:00.125Z");
 }
 

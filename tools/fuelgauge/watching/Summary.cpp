@@ -3,9 +3,9 @@
 
 #include <algorithm>
 #include <cmath>
-#include <utility>
+#include <string_view>
 
-#include "gauge/Units.hpp"
+#include "gauge/Concat.hpp"
 
 namespace fuelgauge {
 
@@ -16,48 +16,30 @@ namespace {
 // Such as "1 h 0 min 5 s".
 std::string InWords(Summary::Seconds time) {
   const std::int64_t seconds = std::llround(time.count());
-  std::string text;
-  if (seconds >= 3600) {
-    text.append(std::to_string(seconds / 3600)).append(" h ");
-  }
-  if (seconds >= 60) {
-    text.append(std::to_string(seconds / 60 % 60)).append(" min ");
-  }
-  return text.append(std::to_string(seconds % 60)).append(" s");
+  return (seconds >= 3600 ? Concat(seconds / 3600, " h ") : "") +
+         (seconds >= 60 ? Concat(seconds / 60 % 60, " min ") : "") + Concat(seconds % 60, " s");
 }
 
-std::string Count(std::int64_t number, const std::string& noun) {
-  return std::to_string(number).append(" ").append(noun).append(number == 1 ? "" : "s");
+std::string Count(std::int64_t number, std::string_view noun) {
+  return Concat(number, " ", noun, number == 1 ? "" : "s");
 }
 
 }  // namespace
 
 void Summary::Add(Seconds time, const Readings& readings) {
   for (const auto id : {VoltageNow, CurrentNow, StateOfCharge, Temperature}) {
-    AddNumber(readings[id]);
+    if (const auto number = readings.Number(id)) {
+      Range& range = ranges[readings[id].property];
+      range.least = std::min(range.least, *number);
+      range.greatest = std::max(range.greatest, *number);
+      range.sum += *number;
+      ++range.count;
+    }
   }
-  AddCurrent(time, readings[CurrentNow]);
+  AddCurrent(time, readings.Number(CurrentNow));
 }
 
-void Summary::AddNumber(const Reading& reading) {
-  const auto number = reading.Number();
-  if (!number) {
-    return;
-  }
-  auto range = std::find_if(ranges.begin(), ranges.end(), [&reading](const Range& each) {
-    return each.property == reading.property;
-  });
-  if (range == ranges.end()) {
-    range = ranges.insert(range, {reading.property, *number, *number, 0, 0});
-  }
-  range->least = std::min(range->least, *number);
-  range->greatest = std::max(range->greatest, *number);
-  range->sum += *number;
-  ++range->count;
-}
-
-void Summary::AddCurrent(Seconds time, const Reading& reading) {
-  const auto current = reading.Number();
+void Summary::AddCurrent(Seconds time, std::optional<int> current) {
   const Seconds step = time - last;
   if (samples == 0) {
     first = time;
@@ -75,40 +57,27 @@ void Summary::AddCurrent(Seconds time, const Reading& reading) {
   measured = measured || current;
 }
 
-std::string Summary::Range::Row() const {
-  const double mean = static_cast<double>(sum) / static_cast<double>(count);
-  return std::string(property->name)
-      .append(": ")
-      .append(ForPeople(least, property->unit))
-      .append(" to ")
-      .append(ForPeople(greatest, property->unit))
-      .append(", mean ")
-      .append(ForPeople(std::llround(mean), property->unit));
-}
-
 std::vector<std::string> Summary::Lines() const {
   if (ranges.empty()) {
     return {};
   }
   std::vector<std::string> lines = {
-      Count(samples, "sample").append(" in ").append(InWords(last - first))};
-  for (const Range& range : ranges) {
-    lines.push_back(range.Row());
+      Concat(Count(samples, "sample"), " in ", InWords(last - first))};
+  for (const auto& [property, range] : ranges) {
+    const Unit unit = property->unit;
+    const double mean = static_cast<double>(range.sum) / static_cast<double>(range.count);
+    lines.push_back(Concat(property->name, ": ", ForPeople(range.least, unit), " to ",
+                           ForPeople(range.greatest, unit), ", mean ",
+                           ForPeople(std::llround(mean), unit)));
   }
-  if (!measured) {
-    return lines;
+  if (measured) {
+    const std::int64_t tenths = std::llround(charge / 360000);
+    lines.push_back(
+        Concat("charge moved: ", ForPeople(tenths, Unit::TenthMilliampereHour),
+               gaps == 0 ? ""
+                         : Concat(", not counting ", Count(gaps, "gap"), " of ", InWords(missed),
+                                  gaps > 1 ? " in all" : "", " in which the current was unknown")));
   }
-  const std::int64_t tenths = std::llround(charge / 360000);
-  std::string moved = "charge moved: " + ForPeople(tenths, Unit::TenthMilliampereHour);
-  if (gaps > 0) {
-    moved.append(", not counting ")
-        .append(Count(gaps, "gap"))
-        .append(" of ")
-        .append(InWords(missed))
-        .append(gaps > 1 ? " in all" : "")
-        .append(" in which the current was unknown");
-  }
-  lines.push_back(std::move(moved));
   return lines;
 }
 

@@ -3,6 +3,8 @@
 
 #include <chrono>
 #include <cstdint>
+#include <limits>
+#include <map>
 #include <optional>
 #include <string>
 #include <vector>
@@ -27,17 +29,13 @@ class Summary {
 
  private:
   struct Range {
-    const Property* property;
-    int least;
-    int greatest;
-    std::int64_t sum;
-    std::int64_t count;
-
-    std::string Row() const;
+    int least = std::numeric_limits<int>::max();
+    int greatest = std::numeric_limits<int>::min();
+    std::int64_t sum = 0;
+    std::int64_t count = 0;
   };
 
-  void AddNumber(const Reading& reading);
-  void AddCurrent(Seconds time, const Reading& reading);
+  void AddCurrent(Seconds time, std::optional<int> current);
 
   Seconds longest;
   Seconds first{};
@@ -47,9 +45,9 @@ class Summary {
   std::int64_t gaps = 0;
   bool inGap = false;
   std::optional<int> lastCurrent;
-  bool measured = false;  // the current, at least once
-  double charge = 0;      // µAs
-  std::vector<Range> ranges;
+  bool measured = false;                    // the current, at least once
+  double charge = 0;                        // µAs
+  std::map<const Property*, Range> ranges;  // in the order of their table
 };
 
 }  // namespace fuelgauge

@@ -25,30 +25,28 @@ struct CheckOptions {
 // A text in quotes, since a blank may be what is wrong with it; a number not rounded, since its last
 // digit may be.
 std::string ValueForPeople(const Reading& reading, bool raw) {
-  if (const auto text = reading.Text()) {
-    return "'" + std::string(*text) + "'";
+  if (reading.Text()) {
+    return "'" + reading.ForPeople() + "'";
   }
   const auto number = reading.Number();
   const Unit unit = reading.property->unit;
-  if (!number || unit == Unit::None) {
-    return reading.ForPeople();
-  }
-  return raw ? Raw(*number, unit) : Exact(*number, unit);
+  return !number || unit == Unit::None ? reading.ForPeople()
+         : raw                         ? Raw(*number, unit)
+                                       : Exact(*number, unit);
 }
 
 // Such as "Status 'Discharging', CurrentNow 412 mA".
 std::string ValuesForPeople(const Evidence& evidence) {
   std::string values;
   for (const Reading* reading : evidence.readings) {
-    values += Concat(
-        values.empty() ? "" : ", ", reading->property->name, reading->Succeeded() ? " " : ": ",
-        reading->Succeeded() ? ValueForPeople(*reading, evidence.raw) : reading->Reason());
+    values += Concat(", ", reading->property->name,
+                     reading->Succeeded() ? " " + ValueForPeople(*reading, evidence.raw)
+                                          : ": " + reading->Reason());
   }
   for (const auto& [field, value] : evidence.fields) {
-    values += Concat(values.empty() ? "" : ", ", field->name, " ",
-                     ForPeople(value, field->quantity.unit));
+    values += Concat(", ", field->name, " ", ForPeople(value, field->quantity.unit));
   }
-  return values;
+  return values.substr(2);
 }
 
 Json ValuesToJson(const Evidence& evidence) {

@@ -1,17 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "commands/CommandLine.hpp"
 
-#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <array>
 #include <cstdlib>
 #include <exception>
 #include <iostream>
 #include <new>
-#include <string>
 #include <string_view>
 #include <utility>
-#include <vector>
 
 #include "commands/Commands.hpp"
 #include "commands/NotEmpty.hpp"

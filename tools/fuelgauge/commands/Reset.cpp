@@ -3,15 +3,14 @@
 #include <memory>
 
 #include "commands/Commands.hpp"
-#include "commands/RecordLock.hpp"
-#include "commands/WriteOutcome.hpp"
+#include "commands/RecordWrite.hpp"
 
 namespace fuelgauge {
 namespace {
 
 ExitStatus Reset(const Gauge& gauge, const std::string& name) {
   const Property& property = FindProperty(name);
-  const RecordLock lock(gauge, property);
+  const Descriptor lock = LockRecord(gauge, property);
   const auto record =
       gauge->Get<dral::LifetimeData>(dral::FuelGaugeProperty::LifetimeDataResetValue).second;
   const dral::FuelGaugeStatus status = gauge->Reset(property.id);

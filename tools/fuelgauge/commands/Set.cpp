@@ -1,13 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include <cerrno>
 #include <memory>
-#include <set>
 
 #include "commands/Commands.hpp"
-#include "commands/RecordLock.hpp"
-#include "commands/WriteOutcome.hpp"
+#include "commands/RecordWrite.hpp"
 #include "gauge/Concat.hpp"
-#include "gauge/LifetimeField.hpp"
+#include "gauge/LifetimeInput.hpp"
 #include "gauge/ToolError.hpp"
 
 namespace fuelgauge {
@@ -27,24 +25,15 @@ ExitStatus Set(const Gauge& gauge, const SetOptions& options) {
     const FuelGaugeStatus status = gauge->Set(property.id, options.values.front());
     return WriteOutcome(gauge, property, record, status, errno);
   }
-  std::set<std::string> fields;
-  for (const std::string& value : options.values) {  // all are judged before the gauge is touched
-    Assign(record, value);
-    if (!fields.insert(value.substr(0, value.find('='))).second) {
-      throw UsageError(Concat("'", value, "': the field is named twice"));
-    }
-  }
-  const RecordLock lock(gauge, property);
+  const FieldValues values = ParseAssignments(options.values);  // before the gauge is touched
+  const Descriptor lock = LockRecord(gauge, property);
   const Reading held = gauge.Read(property);
   if (held.Record() == nullptr) {
     throw ToolError(ToExitStatus(held.status),
                     Concat(property.name, ": not written: ", gauge.Reason(held)));
   }
   record = *held.Record();
-  for (const std::string& value : options.values) {
-    Assign(record, value);
-  }
-  RefuseCrossed(record, fields);
+  Store(values, record);
   const FuelGaugeStatus status = gauge->Set(property.id, record);
   return WriteOutcome(gauge, property, record, status, errno);
 }

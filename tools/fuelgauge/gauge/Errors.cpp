@@ -7,6 +7,8 @@
 #include <string_view>
 #include <system_error>
 
+#include "gauge/Concat.hpp"
+
 namespace fuelgauge {
 namespace {
 
@@ -53,9 +55,8 @@ std::string ErrorName(int error) {
 
 std::string ErrorText(int error) {
   const auto* const found = FindError(error);
-  return found == Errors.end()
-             ? std::generic_category().message(error)
-             : std::string(found->meaning).append(" (").append(found->name).append(")");
+  return found == Errors.end() ? std::generic_category().message(error)
+                               : Concat(found->meaning, " (", found->name, ")");
 }
 
 dral::FuelGaugeStatus StatusOf(int error) {

@@ -11,7 +11,7 @@
 
 #include "gauge/Concat.hpp"
 #include "gauge/Errors.hpp"
-#include "gauge/LifetimeFile.hpp"
+#include "gauge/LifetimeInput.hpp"
 #include "gauge/RegularFile.hpp"
 
 namespace fuelgauge {

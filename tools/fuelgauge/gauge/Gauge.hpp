@@ -17,7 +17,6 @@ struct GaugeOptions {
   std::string lifetimeFile = {};     ///< an override file; empty: none
 };
 
-/// That gauge.
 class Gauge {
  public:
   /// @throws UsageError when the lifetime file cannot be read, or naming its bad entry

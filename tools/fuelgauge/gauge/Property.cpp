@@ -2,7 +2,6 @@
 #include "gauge/Property.hpp"
 
 #include <algorithm>
-#include <utility>
 
 #include "gauge/Concat.hpp"
 #include "gauge/ToolError.hpp"
@@ -44,7 +43,7 @@ constexpr auto HealthWords = std::to_array<std::string_view>(
 
 // Charges are in coulombs: the convention asks for base units, and finds fault with hours in a name.
 // Cycles only grow, until the gauge is replaced: a counter, whose reset Prometheus understands.
-constexpr std::array Table = {
+constexpr std::array<Property, dral::FuelGaugePropertyNames.size()> Properties = {
     Row(Name, String, Unit::None, MayLack),
     Row(Technology, String, Unit::None, Always, {}, TechnologyWords),
     Row(Status, String, Unit::None, Always, {"status", "Charging status: 1 for the state that is."},
@@ -75,25 +74,14 @@ constexpr std::array Table = {
     Row(LifetimeDataResetValue, Lifetime, Unit::None, Always),
 };
 
-// A row in the place of its property's number, and none forgotten.
-static_assert(std::ranges::equal(Table, dral::FuelGaugePropertyNames, {}, &Property::name));
-
-constinit const std::array<Property, dral::FuelGaugePropertyNames.size()> Properties = Table;
+// Each row is in the place of its property's number, and none is forgotten.
+static_assert(std::equal(Properties.begin(), Properties.end(), dral::FuelGaugePropertyNames.begin(),
+                         [](const Property& row, auto name) { return row.name == name; }));
 
 dral::PropertyValue Hint(Type type) {
-  using dral::PropertyValue;
-  switch (type) {
-    case Int:
-      return PropertyValue(std::in_place_type<int>);
-    case Uint:
-      return PropertyValue(std::in_place_type<unsigned int>);
-    case Bool:
-      return PropertyValue(std::in_place_type<bool>);
-    case Lifetime:
-      return PropertyValue(std::in_place_type<dral::LifetimeData>);
-    default:
-      return PropertyValue(std::in_place_type<std::string>);
-  }
+  static const std::array<dral::PropertyValue, 5> hints = {std::string(), 0, 0U, false,
+                                                           dral::LifetimeData()};
+  return hints.at(static_cast<std::size_t>(type));
 }
 
 const Property& FindProperty(std::string_view name) {
@@ -108,7 +96,7 @@ std::string PropertyNames(const std::function<bool(const Property&)>& wanted) {
   std::string names;
   for (const Property& property : Properties) {
     if (wanted(property)) {
-      names.append(names.empty() ? "" : ", ").append(property.name);
+      names += Concat(names.empty() ? "" : ", ", property.name);
     }
   }
   return names;

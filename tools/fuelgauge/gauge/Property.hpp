@@ -41,7 +41,7 @@ struct Property {
   std::string_view name;
 };
 
-/// All of them in the order of their numbers; the reset value alone has no file.
+/// In the order of their numbers; the reset value alone has no file.
 extern const std::array<Property, dral::FuelGaugePropertyNames.size()> Properties;
 
 /// @throws UsageError when there is none of that name

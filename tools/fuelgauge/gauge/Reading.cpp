@@ -31,14 +31,11 @@ std::string Shortened(std::string_view text) {
 }  // namespace
 
 std::optional<int> Reading::Number() const {
-  if (!Succeeded()) {
-    return std::nullopt;
-  }
-  if (const bool* flag = std::get_if<bool>(&value)) {
+  if (const bool* flag = std::get_if<bool>(&value); flag != nullptr && Succeeded()) {
     return *flag ? 1 : 0;
   }
   const int* number = std::get_if<int>(&value);
-  return number != nullptr ? std::optional(*number) : std::nullopt;
+  return number != nullptr && Succeeded() ? std::optional(*number) : std::nullopt;
 }
 
 std::optional<std::string_view> Reading::Text() const {

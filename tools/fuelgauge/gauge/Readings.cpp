@@ -2,7 +2,6 @@
 #include "gauge/Readings.hpp"
 
 #include <algorithm>
-#include <functional>
 
 namespace fuelgauge {
 

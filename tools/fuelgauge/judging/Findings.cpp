@@ -2,7 +2,6 @@
 #include "judging/Findings.hpp"
 
 #include <algorithm>
-#include <utility>
 
 namespace fuelgauge {
 namespace {

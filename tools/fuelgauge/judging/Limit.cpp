@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "judging/Limit.hpp"
 
-#include <string>
-
 #include "gauge/Concat.hpp"
 #include "gauge/Number.hpp"
 #include "gauge/ToolError.hpp"

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include <algorithm>
+#include <array>
 #include <cstdlib>
 #include <initializer_list>
+#include <optional>
 
 #include "judging/Rules.hpp"
 
@@ -14,9 +16,6 @@ namespace {
 
 using Id = dral::FuelGaugeProperty;
 using Find = std::function<Evidence(const Readings&)>;
-
-// As the kernel shows a temperature register of 0.
-constexpr int ZeroKelvin = -2731;
 
 // Of what was not read a rule holds nothing against the gauge: it takes a number that breaks none.
 int NumberOr(const Readings& readings, Id id, int otherwise) {
@@ -33,32 +32,26 @@ double PowerNow(const Readings& readings) {
   return std::abs(1e-12 * NumberOr(readings, VoltageNow, 0) * NumberOr(readings, CurrentNow, 0));
 }
 
-bool ReadsZero(const Reading& reading) {
-  switch (reading.property->unit) {
-    case Unit::TenthDegreeCelsius:
-      return reading.Number() == ZeroKelvin;
-    case Unit::Microvolt:
-    case Unit::Percent:
-    case Unit::MicroampereHour:
-      return reading.Number() == 0;
-    default:
-      return false;
-  }
-}
+// What the kernel shows of a register that holds 0, or all ones; where it is signed or computed, nobody knows.
+struct Register {
+  Unit unit;
+  std::optional<int> zero;  // none: it may well be
+  int ones;
+};
+constexpr auto Registers = std::to_array<Register>({
+    {Unit::None, {}, 65535},
+    {Unit::Percent, 0, 65535},
+    {Unit::Microvolt, 0, 65535000},
+    {Unit::MicroampereHour, 0, 65535000},
+    {Unit::TenthDegreeCelsius, -2731, 65535 - 2731},
+});
 
-bool ReadsAllOnes(const Reading& reading) {
-  switch (reading.property->unit) {
-    case Unit::None:
-    case Unit::Percent:
-      return reading.Number() == 65535;
-    case Unit::Microvolt:
-    case Unit::MicroampereHour:
-      return reading.Number() == 65535000;
-    case Unit::TenthDegreeCelsius:
-      return reading.Number() == 65535 + ZeroKelvin;
-    default:  // signed, or computed
-      return false;
-  }
+template <auto Extreme>
+bool Reads(const Reading& reading) {
+  return std::any_of(Registers.begin(), Registers.end(), [&reading](const Register& each) {
+    const auto number = reading.Number();
+    return each.unit == reading.property->unit && number && number == each.*Extreme;
+  });
 }
 
 // Shows these properties when @p broken.
@@ -121,9 +114,9 @@ Find OfOneCell(Find find) {
 
 // One register that is never zero makes the others that are zero doubtful.
 Evidence AllZero(const Readings& readings) {
-  return ReadsZero(readings[VoltageNow]) || ReadsZero(readings[Temperature])
-             ? Each(ReadsZero)(readings)
-             : Evidence{};
+  constexpr auto zero = Reads<&Register::zero>;
+  return zero(readings[VoltageNow]) || zero(readings[Temperature]) ? Each(zero)(readings)
+                                                                   : Evidence{};
 }
 
 // Healthy gauges were seen a dozen points apart. The charge now is not compensated for load and
@@ -166,7 +159,7 @@ const std::vector<Rule> Rules = {
     {"all-ones",
      Error,
      "registers read all ones: nothing answered these reads",
-     OfOurDriver(Each(ReadsAllOnes)),
+     OfOurDriver(Each(Reads<&Register::ones>)),
      {"charge-range", "charge-full", "charges-disagree", "full-early", "level", "temperature-range",
       "voltage-range"}},
     {"all-zero",

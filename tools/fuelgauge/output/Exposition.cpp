@@ -2,9 +2,6 @@
 #include "output/Exposition.hpp"
 
 #include <algorithm>
-#include <cstdint>
-#include <string_view>
-#include <utility>
 
 #include "gauge/Errors.hpp"
 #include "output/MetricsText.hpp"

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "output/Json.hpp"
 
-#include <FuelGaugeNames.hpp>
 #include <iostream>
 #include <sstream>
 #include <variant>

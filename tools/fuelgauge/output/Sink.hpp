@@ -12,10 +12,7 @@ namespace fuelgauge {
 /// Where a watch shows what it sees.
 class Sink {
  public:
-  Sink() = default;
   virtual ~Sink() = default;
-  Sink(const Sink&) = delete;
-  Sink& operator=(const Sink&) = delete;
 
   /// Shows the @p readings of @p time. Programs get none of a gauge that gives nothing.
   virtual void Sample(const std::string& time, const Readings& readings) = 0;

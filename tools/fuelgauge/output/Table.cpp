@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <iostream>
 
+#include "gauge/Concat.hpp"
 #include "gauge/LifetimeField.hpp"
 #include "gauge/Units.hpp"
 #include "output/Text.hpp"
@@ -16,8 +17,8 @@ std::string PadTo(std::size_t width, std::string text) {
 
 std::string Row(std::string_view name, std::string_view value, std::string_view remark) {
   // A long name or value still ends with a blank.
-  std::string row = PadTo(NameColumns - 1, std::string(name)).append(" ");
-  row.append(PadTo(ValueColumns - 1, TerminalSafe(value))).append(" ").append(TerminalSafe(remark));
+  std::string row = Concat(PadTo(NameColumns - 1, std::string(name)), " ",
+                           PadTo(ValueColumns - 1, TerminalSafe(value)), " ", TerminalSafe(remark));
   row.erase(row.find_last_not_of(' ') + 1);
   return row;
 }

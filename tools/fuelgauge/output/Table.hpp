@@ -18,10 +18,8 @@ std::string PadTo(std::size_t width, std::string text);
 /// @return one row of a table, fit for a terminal: a name, a value and what is worth saying beside it
 std::string Row(std::string_view name, std::string_view value, std::string_view remark);
 
-/// Prints such a row.
 void PrintRow(std::string_view name, std::string_view value, std::string_view remark);
 
-/// Prints a row for each field of the record.
 void PrintFields(const dral::LifetimeData& data);
 
 }  // namespace fuelgauge

@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <string_view>
 
 #include "gauge/Concat.hpp"
 

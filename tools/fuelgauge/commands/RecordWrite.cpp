@@ -1,13 +1,41 @@
 // SPDX-License-Identifier: MIT
-#include "commands/WriteOutcome.hpp"
+#include "commands/RecordWrite.hpp"
+
+#include <fcntl.h>
+#include <sys/file.h>
+
+#include <cerrno>
+#include <chrono>
+#include <thread>
 
 #include "gauge/Concat.hpp"
 #include "gauge/Errors.hpp"
 #include "gauge/LifetimeField.hpp"
+#include "gauge/RegularFile.hpp"
+#include "gauge/ToolError.hpp"
 #include "output/Message.hpp"
 #include "output/Table.hpp"
 
 namespace fuelgauge {
+
+Descriptor LockRecord(const Gauge& gauge, const Property& property) {
+  const std::string path = gauge.File(property);
+  if (const std::string refusal = Unfit(path); !refusal.empty()) {
+    throw ToolError(ExitStatus::FileError, Concat(property.name, ": not written: ", refusal));
+  }
+  Descriptor file(::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+  constexpr std::chrono::seconds Patience(3);
+  const auto end = std::chrono::steady_clock::now() + Patience;
+  while (::flock(file, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK) {
+    if (std::chrono::steady_clock::now() >= end) {
+      throw ToolError(ExitStatus::Busy,
+                      Concat("not written: waited ", Patience.count(),
+                             " s for another process, which holds a lock on '", path, "'"));
+    }
+    std::this_thread::sleep_for(std::chrono::milliseconds(20));
+  }
+  return file;
+}
 
 ExitStatus WriteOutcome(const Gauge& gauge, const Property& property,
                         const dral::LifetimeData& written, dral::FuelGaugeStatus status,

@@ -135,12 +135,7 @@ GaugeOptions Request::One() const {
   if (devices.size() > 1) {
     throw UsageError("--device: 'metrics' alone takes more than one");
   }
-  GaugeOptions which;
-  which.lifetimeFile = lifetimeFile;
-  if (!devices.empty()) {
-    which.device = devices.front();
-  }
-  return which;
+  return {devices.empty() ? GaugeOptions().device : devices.front(), lifetimeFile};
 }
 
 ExitStatus RunCommandLine(int argc, char** argv) {

@@ -47,14 +47,13 @@ ExitStatus Get(const Gauge& gauge, const GetOptions& options) {
   } else if (reading.Succeeded()) {
     PrintBare(reading);
   }
-  if (reading.Succeeded() && type == Type::Uint) {
+  if (!reading.Succeeded()) {
+    Complain(Concat(property.name, ": ", gauge.Reason(reading)));
+  } else if (type == Type::Uint) {
     const std::string text = gauge.Read(property, Type::String).ForPeople();
     if (text.find('-') == text.find_first_not_of(" \t\n\v\f\r")) {
       Complain(Concat(property.name, ": as uint, '", text, "' loses its sign"));
     }
-  }
-  if (!reading.Succeeded()) {
-    Complain(Concat(property.name, ": ", gauge.Reason(reading)));
   }
   return ToExitStatus(reading.status);
 }

@@ -20,30 +20,23 @@ struct MetricsOptions {
   std::optional<std::string> output;
 };
 
-std::vector<GaugeOptions> Gauges(const Request& request, bool all) {
-  if (!all && request.devices.empty()) {
-    return {request.One()};
-  }
-  std::vector<GaugeOptions> gauges;
-  for (const std::string& device : request.devices) {
-    gauges.push_back({device, request.lifetimeFile});
-  }
-  for (const Supply& supply : all ? Batteries() : std::vector<Supply>()) {
-    if (!supply.IsOfDevice()) {
-      gauges.push_back({supply.Name(), request.lifetimeFile});
-    }
-  }
-  return gauges;
-}
-
 ExitStatus Metrics(const Request& request, const MetricsOptions& options) {
   if (options.all && !request.devices.empty()) {
     throw UsageError("--all cannot be combined with --device");
   }
+  std::vector<std::string> devices = request.devices;
+  for (const Supply& supply : options.all ? Batteries() : std::vector<Supply>()) {
+    if (!supply.IsOfDevice()) {
+      devices.push_back(supply.Name());
+    }
+  }
+  if (devices.empty() && !options.all) {
+    devices.push_back(GaugeOptions().device);
+  }
   ExitStatus status = ExitStatus::Success;
   Judged supplies;
-  for (const GaugeOptions& which : Gauges(request, options.all)) {
-    const Gauge gauge(which);
+  for (const std::string& device : devices) {
+    const Gauge gauge({device, request.lifetimeFile});
     const std::string name = TerminalSafe(gauge.TheSupply().Name());  // as the label has it
     if (!supplies.contains(name)) {
       Readings readings = gauge.ReadAll();

@@ -12,25 +12,23 @@ namespace fuelgauge {
 
 namespace {
 
-Json ValueToJson(const dral::LifetimeData& data) {
-  Json fields;
-  for (const LifetimeField& field : LifetimeFields) {
-    fields[std::string(field.name)] = field.Value(data);
+struct ToValue {
+  Json operator()(const auto& value) const { return value; }
+  Json operator()(const dral::LifetimeData& data) const {
+    Json fields;
+    for (const LifetimeField& field : LifetimeFields) {
+      fields[std::string(field.name)] = field.Value(data);
+    }
+    return fields;
   }
-  return fields;
-}
-
-template <typename T>
-Json ValueToJson(const T& value) {
-  return value;
-}
+};
 
 }  // namespace
 
 Json ToJson(const Reading& reading) {
   Json answer = {{"status", dral::NameOf(reading.status)}, {"value", nullptr}};
   if (reading.Succeeded()) {
-    answer["value"] = std::visit([](const auto& held) { return ValueToJson(held); }, reading.value);
+    answer["value"] = std::visit(ToValue(), reading.value);
   } else {
     answer["reason"] = reading.Reason();
   }

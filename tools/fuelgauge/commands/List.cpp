@@ -26,7 +26,7 @@ ExitStatus List(const Gauge& gauge, bool json) {
   const Readings readings = gauge.ReadAll();
   if (json) {
     Print(ToJson(readings));
-  } else {
+  } else if (gauge.TheSupply().Absence().empty()) {
     const std::string_view energy = readings.EnergyRemark();
     for (const Reading& reading : readings) {
       if (!energy.empty() && reading.error == ENOENT) {

@@ -37,6 +37,9 @@ ExitStatus Metrics(const Request& request, const MetricsOptions& options) {
   Judged supplies;
   for (const std::string& device : devices) {
     const Gauge gauge({device, request.lifetimeFile});
+    if (gauge.TheSupply().IsNamed() && !gauge.TheSupply().Absence().empty()) {
+      Complain(gauge.TheSupply().Absence());
+    }
     const std::string name = TerminalSafe(gauge.TheSupply().Name());  // as the label has it
     if (!supplies.contains(name)) {
       Readings readings = gauge.ReadAll();

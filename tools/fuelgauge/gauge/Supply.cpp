@@ -11,6 +11,7 @@
 #include <memory>
 #include <string_view>
 
+#include "gauge/Chips.hpp"
 #include "gauge/Concat.hpp"
 #include "gauge/RegularFile.hpp"
 #include "gauge/ToolError.hpp"
@@ -47,7 +48,7 @@ bool IsPath(const std::string& device) {
 }  // namespace
 
 Supply::Supply(const std::string& device)
-    : folder(IsPath(device) ? device : Concat(SupplyClass, "/", device)) {}
+    : named(!IsPath(device)), folder(named ? Concat(SupplyClass, "/", device) : device) {}
 
 std::string Supply::Name() const {
   const auto path = (std::filesystem::absolute(folder) / "").lexically_normal();
@@ -84,8 +85,17 @@ std::string Supply::Absence() const {
   if (Exists(folder) || errno != ENOENT) {
     return "";
   }
-  return Concat("there is no '", folder, "'",
-                folder.starts_with(SupplyClass) ? "; " + SuppliesForPeople() : "");
+  const std::string text = Concat("there is no '", folder, "'");
+  if (!named) {
+    return text;
+  }
+  const bool alone = Supplies().empty();
+  const std::string chip = ChipWithoutSupply(alone || IsChip(Name()));
+  if (!chip.empty()) {
+    return Concat(text, ": ", chip, alone ? "" : "; " + SuppliesForPeople());
+  }
+  return Concat(text, "; ", SuppliesForPeople(),
+                Batteries().empty() ? "" : ": choose one with --device");
 }
 
 std::vector<Supply> Batteries() {

@@ -33,10 +33,14 @@ class Supply {
   /// @return whether the battery counts energy, and not charge
   bool CountsEnergy() const;
 
-  /// @return when it is not there: so, and which supplies there are; else nothing
+  /// @return whether it was given as a name of the kernel's
+  bool IsNamed() const { return named; }
+
+  /// @return when it is not there: so, and of a named one, why, and what to do; else nothing
   std::string Absence() const;
 
  private:
+  bool named;
   std::string folder;
 };
 

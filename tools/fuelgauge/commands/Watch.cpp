@@ -17,6 +17,7 @@
 #include "output/LineSink.hpp"
 #include "output/Screen.hpp"
 #include "output/Timestamp.hpp"
+#include "watching/Events.hpp"
 #include "watching/Wait.hpp"
 
 using std::chrono::steady_clock;
@@ -29,6 +30,7 @@ struct WatchOptions {
   std::uint64_t count = 0;  // samples to take; 0: until stopped
   bool csv = false;
   bool json = false;
+  bool events = false;
 };
 
 // Not by CLI11: it takes "nan" for a number of seconds, and 010 for eight samples.
@@ -95,11 +97,16 @@ class Presence {
 };
 
 // @return whether the watch goes on
-bool WaitUntil(steady_clock::time_point next, const Wait& wait, Sink& sink) {
+bool WaitUntil(steady_clock::time_point next, const Wait& wait, const Events& events, Sink& sink) {
   while (true) {
-    switch (wait.Until(next)) {
+    switch (wait.Until(next, events.Number())) {
       case Wait::Cause::Time:
         return true;
+      case Wait::Cause::Events:
+        if (events.Take()) {
+          return true;
+        }
+        break;
       case Wait::Cause::Signal:
         std::cout << (::isatty(STDOUT_FILENO) != 0 ? "\n" : "") << std::flush;  // behind "^C"
         return false;
@@ -118,12 +125,17 @@ bool WaitUntil(steady_clock::time_point next, const Wait& wait, Sink& sink) {
 ExitStatus Watch(const Gauge& gauge, const WatchOptions& options) {
   const Wait wait;
   const std::unique_ptr<Sink> sink = SinkFor(options);
+  const Events events(options.events ? gauge.TheSupply().Name() : "");
+  if (!events.Lack().empty()) {
+    sink->Notice(Concat("no events, only the interval: ", events.Lack()));
+  }
   const Summary::Seconds seconds(options.intervalSeconds);
   const auto interval = std::chrono::duration_cast<steady_clock::duration>(seconds);
   Summary summary(seconds);
   Presence presence;
   auto next = steady_clock::now();
   for (std::uint64_t taken = 1;; ++taken) {
+    const bool due = steady_clock::now() >= next;  // else an event comes between
     const std::string time = Timestamp(Now());
     const Summary::Seconds moment = SinceStart();
     const Readings readings = gauge.ReadAll();
@@ -132,11 +144,13 @@ ExitStatus Watch(const Gauge& gauge, const WatchOptions& options) {
     const ExitStatus status = presence.Ever() ? ExitStatus::Success : ExitStatus::FileError;
     Wait::EndWith(status);
     sink->Sample(time, readings);
-    next = std::max(next + interval, steady_clock::now());  // a slow gauge is not hurried after
+    if (due) {
+      next = std::max(next + interval, steady_clock::now());  // a slow gauge is not hurried after
+    }
     if (!OutputIsOut()) {
       return status;
     }
-    if (taken == options.count || !WaitUntil(next, wait, *sink)) {
+    if (taken == options.count || !WaitUntil(next, wait, events, *sink)) {
       if (!ReaderIsGone()) {
         sink->End(summary);
       }
@@ -159,6 +173,8 @@ Action AddWatch(CLI::App& parser) {
           "--count", [options](const auto& text) { options->count = Count(text); },
           "Samples to take; default: until Ctrl-C")
       ->type_name("N");
+  parser.add_flag("--events", options->events,
+                  "A sample also when the kernel announces a change of the supply");
   CLI::Option* const csv =
       parser.add_flag("--csv", options->csv, "A header, then one line of raw numbers per sample");
   parser.add_flag("--json", options->json, "One line of JSON per sample")->excludes(csv);

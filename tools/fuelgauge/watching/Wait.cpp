@@ -5,6 +5,7 @@
 #include <termios.h>
 #include <unistd.h>
 
+#include <array>
 #include <csignal>
 #include <ctime>
 
@@ -79,7 +80,7 @@ void Wait::EndWith(ExitStatus status) {
   endStatus = static_cast<int>(status);
 }
 
-Wait::Cause Wait::Until(std::chrono::steady_clock::time_point time) const {
+Wait::Cause Wait::Until(std::chrono::steady_clock::time_point time, int events) const {
   using std::chrono::nanoseconds;
   sigset_t all;
   sigset_t none;
@@ -95,8 +96,10 @@ Wait::Cause Wait::Until(std::chrono::steady_clock::time_point time) const {
     timespec timeout{};
     timeout.tv_sec = static_cast<std::time_t>(seconds.count());
     timeout.tv_nsec = static_cast<long>((left - seconds).count());
-    pollfd output{STDOUT_FILENO, 0, 0};  // without a question it tells that the reader has gone
-    cause = ::ppoll(&output, 1, &timeout, &none) > 0 ? Cause::Reader : Came();
+    // Without a question, the output tells that the reader has gone.
+    std::array<pollfd, 2> files = {{{STDOUT_FILENO, 0, 0}, {events, POLLIN, 0}}};
+    const bool came = ::ppoll(files.data(), files.size(), &timeout, &none) > 0;
+    cause = !came ? Came() : files[0].revents != 0 ? Cause::Reader : Cause::Events;
   }
   ::sigprocmask(SIG_SETMASK, &none, nullptr);
   return cause;

@@ -20,6 +20,7 @@ class Wait {
   enum class Cause {
     Time,
     Signal,  ///< the watch is to end
+    Events,
     Reader,  ///< nobody reads the output any more
     Window,  ///< it has another size
     Shell,   ///< it was there meanwhile
@@ -30,8 +31,9 @@ class Wait {
   /// The program is to end with @p status from now on, should something block.
   static void EndWith(ExitStatus status);
 
-  /// Waits until @p time, or until something comes before.
-  Cause Until(std::chrono::steady_clock::time_point time) const;
+  /// Waits until @p time, or until something comes before, such as what makes @p events readable; a
+  /// negative number never is.
+  Cause Until(std::chrono::steady_clock::time_point time, int events) const;
 };
 
 }  // namespace fuelgauge

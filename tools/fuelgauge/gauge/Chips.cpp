@@ -14,7 +14,7 @@
 #include "gauge/Concat.hpp"
 #include "gauge/Errors.hpp"
 #include "gauge/RegularFile.hpp"
-#include "gauge/UsageError.hpp"
+#include "gauge/ToolError.hpp"
 
 namespace fuelgauge {
 namespace {
@@ -40,7 +40,7 @@ std::string ChipName(const std::string& device) {
     const std::string text = ContentsOf(device + "/name");
     return text.substr(0, text.find('\n'));
   } catch (const UsageError& error) {
-    throw UsageError(Concat("'", device, "/name': ", error.Text()));
+    throw UsageError(Concat("'", device, "/name': ", error.text));
   }
 }
 
@@ -109,7 +109,7 @@ std::string ChipWithoutSupply(bool expected) {
     }
     return declared || !expected ? "" : Declare();
   } catch (const UsageError& error) {
-    return expected ? "whether a chip is declared is not known: " + error.Text() : "";
+    return expected ? "whether a chip is declared is not known: " + error.text : "";
   }
 }
 

@@ -18,13 +18,18 @@
 namespace fuelgauge {
 namespace {
 
+sockaddr* Generic(sockaddr_nl& address) {
+  // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): the calls ask for it
+  return reinterpret_cast<sockaddr*>(&address);
+}
+
 int Subscribe() {
   const int number =
       ::socket(AF_NETLINK, SOCK_DGRAM | SOCK_CLOEXEC | SOCK_NONBLOCK, NETLINK_KOBJECT_UEVENT);
   sockaddr_nl kernel{};
   kernel.nl_family = AF_NETLINK;
   kernel.nl_groups = 1;  // the kernel's own messages; a device manager's are in another group
-  if (number >= 0 && ::bind(number, reinterpret_cast<sockaddr*>(&kernel), sizeof kernel) != 0) {
+  if (number >= 0 && ::bind(number, Generic(kernel), sizeof kernel) != 0) {
     const int error = errno;
     ::close(number);
     errno = error;
@@ -75,8 +80,8 @@ bool Events::Take() const {
   while (true) {
     sockaddr_nl sender{};
     socklen_t length = sizeof sender;
-    const ssize_t count = ::recvfrom(socket, message.data(), message.size(), 0,
-                                     reinterpret_cast<sockaddr*>(&sender), &length);
+    const ssize_t count =
+        ::recvfrom(socket, message.data(), message.size(), 0, Generic(sender), &length);
     if (count >= 0) {
       concerned |=
           sender.nl_pid == 0 && Concerns({message.data(), static_cast<std::size_t>(count)}, supply);

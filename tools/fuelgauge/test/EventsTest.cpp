@@ -12,7 +12,8 @@ TEST(Events, WhatIsSaidOfTheSupplyOrItsChipConcernsIt) {
   for (auto [concerns, message] : std::initializer_list<std::pair<bool, std::string>>{
            {true, "|DEVPATH=/i2c-0/0-0055/power_supply/bq27542-0|SUBSYSTEM=power_supply|"},
            {true, "|SUBSYSTEM=power_supply|DEVPATH=/i2c-0/0-0055/power_supply/bq27542-0"},
-           {true, "|DEVPATH=/0-0055/power_supply/bq27542-0/hwmon1|SUBSYSTEM=hwmon|"},
+           {true, "|ACTION=add|DEVPATH=/0-0055/power_supply/bq27542-0/hwmon1|SUBSYSTEM=hwmon|"},
+           {false, "|ACTION=remove|DEVPATH=/0-0055/power_supply/bq27542-0/hwmon1|SUBSYSTEM=hwmon|"},
            {true,
             "|ACTION=bind|DEVPATH=/0-0055|SUBSYSTEM=i2c|MODALIAS=of:NgaugeT(null)Cti,bq27542|"},
            {false, "|ACTION=bind|DEVPATH=/0-0056|SUBSYSTEM=i2c|MODALIAS=i2c:bq24190|"},

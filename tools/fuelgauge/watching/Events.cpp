@@ -54,15 +54,18 @@ bool Concerns(std::string_view message, std::string_view supply) {
   const auto valueOf = [message](const std::string& key) {
     const std::string start = std::string(1, '\0') + key + "=";
     const auto found = message.find(start);
-    const auto value = found == message.npos ? "" : message.substr(found + start.size());
+    const auto value =
+        found == message.npos ? std::string_view() : message.substr(found + start.size());
     return value.substr(0, value.find('\0'));
   };
+  const std::string_view action = valueOf("ACTION");
+  const std::string_view path = valueOf("DEVPATH");
   const std::string_view subsystem = valueOf("SUBSYSTEM");
   const std::string folder = Concat("/power_supply/", supply, "/");
-  return (subsystem == "power_supply" && Concat(valueOf("DEVPATH"), "/").ends_with(folder)) ||
-         valueOf("DEVPATH").find(folder) != message.npos ||
-         (subsystem == "i2c" && valueOf("ACTION") == "bind" &&
-          valueOf("MODALIAS").find(supply.substr(0, supply.find('-'))) != message.npos);
+  const std::string_view chip = supply.substr(0, supply.find('-'));
+  return (subsystem == "power_supply" && Concat(path, "/").ends_with(folder)) ||
+         (action == "add" && path.find(folder) != path.npos) ||
+         (action == "bind" && subsystem == "i2c" && valueOf("MODALIAS").find(chip) != path.npos);
 }
 
 Events::Events(std::string supply)

@@ -10,10 +10,10 @@
 #include <sstream>
 
 #include "Target.hpp"
-#include "TemporaryFolder.hpp"
 #include "commands/Commands.hpp"
 #include "output/Json.hpp"
 #include "output/LineSink.hpp"
+#include "support/TemporaryFolder.hpp"
 
 using namespace fuelgauge;
 

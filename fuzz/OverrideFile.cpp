@@ -5,7 +5,7 @@
 #include <stdexcept>
 
 #include "Target.hpp"
-#include "TemporaryFolder.hpp"
+#include "support/TemporaryFolder.hpp"
 
 void Target(const std::string& input) {
   static const TemporaryFolder folder;

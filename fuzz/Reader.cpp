@@ -6,7 +6,7 @@
 
 #include "Readable.hpp"
 #include "Target.hpp"
-#include "TemporaryFolder.hpp"
+#include "support/TemporaryFolder.hpp"
 
 using namespace dral;
 

@@ -14,7 +14,7 @@
 #include <new>
 #include <string>
 
-#include "support/Fault.hpp"
+#include "Fault.hpp"
 #include "support/FolderGauge.hpp"
 
 using namespace dral;

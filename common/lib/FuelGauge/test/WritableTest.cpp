@@ -5,7 +5,7 @@
 #include <cstring>
 #include <string>
 
-#include "support/Fault.hpp"
+#include "Fault.hpp"
 #include "support/FolderGauge.hpp"
 
 using namespace dral;

@@ -13,7 +13,7 @@ namespace dral {
 
 /// What a property is called.
 struct FuelGaugePropertyRow {
-  FuelGaugeProperty property;
+  FuelGaugeProperty property;  ///< its enumerator
   std::string_view name;       ///< its enumerator's
   std::string_view attribute;  ///< its file's, in the folder of the device; empty when it has none
 };

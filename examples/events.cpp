@@ -17,6 +17,7 @@ int main() {
   sockaddr_nl address{};
   address.nl_family = AF_NETLINK;
   address.nl_groups = 1;
+  // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): a socket has no other way
   if (bind(kernel, reinterpret_cast<sockaddr*>(&address), sizeof address) != 0) {
     return 1;
   }

@@ -97,9 +97,9 @@ class Presence {
 };
 
 // @return whether the watch goes on
-bool WaitUntil(steady_clock::time_point next, const Wait& wait, const Events& events, Sink& sink) {
+bool WaitUntil(steady_clock::time_point next, const Events& events, Sink& sink) {
   while (true) {
-    switch (wait.Until(next, events.Number())) {
+    switch (Wait::Until(next, events.Number())) {
       case Wait::Cause::Time:
         return true;
       case Wait::Cause::Events:
@@ -150,7 +150,7 @@ ExitStatus Watch(const Gauge& gauge, const WatchOptions& options) {
     if (!OutputIsOut()) {
       return status;
     }
-    if (taken == options.count || !WaitUntil(next, wait, events, *sink)) {
+    if (taken == options.count || !WaitUntil(next, events, *sink)) {
       if (!ReaderIsGone()) {
         sink->End(summary);
       }

@@ -85,7 +85,7 @@ std::string Supply::Absence() const {
   if (Exists(folder) || errno != ENOENT) {
     return "";
   }
-  const std::string text = Concat("there is no '", folder, "'");
+  std::string text = Concat("there is no '", folder, "'");
   if (!named) {
     return text;
   }

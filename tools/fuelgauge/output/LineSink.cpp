@@ -67,7 +67,7 @@ std::string CsvLine(const std::string& time, const Readings& readings) {
 }
 
 std::string CsvField(std::string_view text) {
-  const std::string safe = TerminalSafe(text);
+  std::string safe = TerminalSafe(text);
   if (safe.find_first_of(",\"") == std::string::npos) {
     return safe;
   }

@@ -67,17 +67,18 @@ void PutInPlace(const std::string& path, std::string_view text) {
     }));
     struct stat found {};
     const int error = ::fstatat(folder, name.c_str(), &found, AT_SYMLINK_NOFOLLOW) == 0 ? 0 : errno;
-    const ToolError irregular(ExitStatus::OutputError,
-                              "'" + path + outcome + "it is not a regular file");
+    const auto refuse = [&path, &outcome] {
+      throw ToolError(ExitStatus::OutputError, "'" + path + outcome + "it is not a regular file");
+    };
     if (name.empty() || (error == 0 && !S_ISREG(found.st_mode))) {
-      throw irregular;
+      refuse();
     }
     RemoveLeftOvers(folder, prefix);
     const Descriptor file(Checked([&] {
       const int made =
           ::openat(folder, temporary.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
       if (made < 0 && errno == ENOENT && error == 0) {  // there are no others in /proc
-        throw irregular;
+        refuse();
       }
       return made;
     }));

@@ -55,7 +55,7 @@ bool Concerns(std::string_view message, std::string_view supply) {
     const std::string start = std::string(1, '\0') + key + "=";
     const auto found = message.find(start);
     const auto value =
-        found == message.npos ? std::string_view() : message.substr(found + start.size());
+        found == std::string_view::npos ? std::string_view() : message.substr(found + start.size());
     return value.substr(0, value.find('\0'));
   };
   const std::string_view action = valueOf("ACTION");
@@ -64,8 +64,9 @@ bool Concerns(std::string_view message, std::string_view supply) {
   const std::string folder = Concat("/power_supply/", supply, "/");
   const std::string_view chip = supply.substr(0, supply.find('-'));
   return (subsystem == "power_supply" && Concat(path, "/").ends_with(folder)) ||
-         (action == "add" && path.find(folder) != path.npos) ||
-         (action == "bind" && subsystem == "i2c" && valueOf("MODALIAS").find(chip) != path.npos);
+         (action == "add" && path.find(folder) != std::string_view::npos) ||
+         (action == "bind" && subsystem == "i2c" &&
+          valueOf("MODALIAS").find(chip) != std::string_view::npos);
 }
 
 Events::Events(std::string supply)

@@ -80,7 +80,7 @@ void Wait::EndWith(ExitStatus status) {
   endStatus = static_cast<int>(status);
 }
 
-Wait::Cause Wait::Until(std::chrono::steady_clock::time_point time, int events) const {
+Wait::Cause Wait::Until(std::chrono::steady_clock::time_point time, int events) {
   using std::chrono::nanoseconds;
   sigset_t all;
   sigset_t none;

@@ -33,7 +33,7 @@ class Wait {
 
   /// Waits until @p time, or until something comes before, such as what makes @p events readable; a
   /// negative number never is.
-  Cause Until(std::chrono::steady_clock::time_point time, int events) const;
+  static Cause Until(std::chrono::steady_clock::time_point time, int events);
 };
 
 }  // namespace fuelgauge

@@ -15,7 +15,9 @@ Readings ReadingsOf(std::optional<int> current) {
   std::vector<Reading> readings;
   for (const Property& property : Properties) {
     readings.push_back({&property, dral::FuelGaugeStatus::FileError, Hint(property.type)});
-    if (current && property.id == dral::FuelGaugeProperty::CurrentNow) {
+    if (property.id == dral::FuelGaugeProperty::VoltageNow) {
+      readings.back() = {&property, dral::FuelGaugeStatus::Success, 3700000};
+    } else if (current && property.id == dral::FuelGaugeProperty::CurrentNow) {
       readings.back() = {&property, dral::FuelGaugeStatus::Success, *current};
     }
   }
@@ -26,18 +28,19 @@ TEST(Summary, GapsMoveNoCharge) {
   using Samples = std::vector<std::pair<int, std::optional<int>>>;  // seconds, µA
   const std::string unknown = " in which the current was unknown";
   const std::pair<Samples, std::string> cases[] = {
-      {{{100, -360000}, {110, -720000}, {120, -720000}}, "-3.5 mAh"},
+      {{{100, -360000}, {110, -720000}, {120, -720000}}, "charge moved: -3.5 mAh"},
       {{{0, 3600000}, {10, {}}, {20, {}}, {30, 3600000}, {40, 3600000}},
-       "10.0 mAh, not counting 1 gap of 30 s" + unknown},
+       "charge moved: 10.0 mAh, not counting 1 gap of 30 s" + unknown},
       {{{0, 3600000}, {10, 3600000}, {3720, 3600000}, {3730, 3600000}, {3740, {}}},
-       "20.0 mAh, not counting 2 gaps of 1 h 2 min 0 s in all" + unknown},
+       "charge moved: 20.0 mAh, not counting 2 gaps of 1 h 2 min 0 s in all" + unknown},
+      {{{0, {}}, {10, {}}}, "VoltageNow: 3.700 V to 3.700 V, mean 3.700 V"},  // and no charge
   };
-  for (const auto& [samples, moved] : cases) {
+  for (const auto& [samples, last] : cases) {
     Summary summary(Summary::Seconds(10));
     for (const auto& [time, current] : samples) {
       summary.Add(Summary::Seconds(time), ReadingsOf(current));
     }
-    EXPECT_EQ(summary.Lines().back(), "charge moved: " + moved);
+    EXPECT_EQ(summary.Lines().back(), last);
   }
 }
 

@@ -6,16 +6,10 @@
 #include <gtest/gtest.h>
 
 #include <atomic>
-#include <cerrno>
 #include <chrono>
-#include <cstring>
-#include <filesystem>
 #include <fstream>
 #include <future>
-#include <iterator>
-#include <memory>
 #include <set>
-#include <string>
 #include <thread>
 
 #include "support/LogCapture.hpp"

@@ -1,17 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include <Bq27542FuelGauge.hpp>
-
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
 #include <algorithm>
 #include <chrono>
 #include <future>
-#include <locale>
-#include <sstream>
 #include <stdexcept>
-#include <string>
-#include <variant>
 #include <vector>
 
 #include "support/FolderGauge.hpp"

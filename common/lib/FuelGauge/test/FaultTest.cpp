@@ -8,11 +8,8 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <cerrno>
-#include <cstdlib>
 #include <functional>
 #include <new>
-#include <string>
 
 #include "Fault.hpp"
 #include "support/FolderGauge.hpp"
@@ -23,7 +20,7 @@ Fault fault;
 
 namespace {
 
-int allocationsLeft = -1;  // -1: as many as are asked for
+thread_local int allocationsLeft = -1;  // -1: as many as are asked for
 
 bool Fails(const char* call) {
   if (fault.call != call || fault.after-- != 0) {

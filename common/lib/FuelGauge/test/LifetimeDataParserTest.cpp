@@ -3,8 +3,6 @@
 #include <LifetimeDataParser.hpp>
 
 #include <stdexcept>
-#include <string>
-#include <utility>
 
 #include "support/LogCapture.hpp"
 #include "support/Outcome.hpp"

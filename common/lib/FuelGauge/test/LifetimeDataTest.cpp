@@ -3,9 +3,6 @@
 #include <LifetimeData.hpp>
 
 #include <numeric>
-#include <sstream>
-#include <string>
-#include <utility>
 
 #include "support/LogCapture.hpp"
 #include "support/Outcome.hpp"

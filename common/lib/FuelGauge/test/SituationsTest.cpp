@@ -4,9 +4,7 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
-#include <filesystem>
 #include <future>
-#include <string>
 
 #include "support/FolderGauge.hpp"
 

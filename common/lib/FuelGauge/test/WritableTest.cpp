@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
-
-#include <cerrno>
-#include <cstring>
-#include <string>
+#include <unistd.h>
 
 #include "Fault.hpp"
 #include "support/FolderGauge.hpp"
@@ -44,6 +41,7 @@ TEST(Writable, WritesJustTheValueInTheFormOfItsType) {
       {given, "0 ENOSPC ", {"write", 0, ENOSPC}},
       {"text", "0 EDQUOT text", {"close", 0, EDQUOT}},
   };
+  ::close(STDIN_FILENO);  // so that the file may get descriptor 0
   for (const Case& each : cases) {
     at.folder.Write("lifetime_data", before);
     const auto files = OpenFiles();

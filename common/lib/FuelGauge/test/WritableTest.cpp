@@ -7,9 +7,8 @@
 
 using namespace dral;
 
-constexpr auto Property = FuelGaugeProperty::LifetimeData;
-
 TEST(Writable, WritesJustTheValueInTheFormOfItsType) {
+  constexpr auto Property = FuelGaugeProperty::LifetimeData;
   FolderGauge at;
   const std::string path = at.folder.At("lifetime_data");
   const std::string before = "older, and longer than what is written";

@@ -11,14 +11,16 @@ cmake_path(RELATIVE_PATH CMAKE_INSTALL_PREFIX
 
 # install_library(TARGET): a library with its headers in a folder of their own, include/TARGET, its
 # CMake package (the target kesp::NAME, for a TARGET kesp_NAME) and its pkg-config file. It finds the
-# libraries that it needs itself beside it.
+# libraries that it needs itself beside it. Its version is TARGET_VERSION, whose major is the SONAME's.
 function(install_library target)
   string(REGEX REPLACE "^kesp_" "" name ${target})
+  set(version ${${target}_VERSION})
+  string(REGEX MATCH "^[0-9]+" soversion ${version})
   set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/${target})
   set_target_properties(${target} PROPERTIES
     EXPORT_NAME ${name}
-    VERSION ${PROJECT_VERSION}
-    SOVERSION ${PROJECT_VERSION_MAJOR}
+    VERSION ${version}
+    SOVERSION ${soversion}
     INSTALL_RPATH $ORIGIN
     POSITION_INDEPENDENT_CODE ON) # a static library may become a part of a shared one
   if(NOT KESP_INSTALL)
@@ -29,7 +31,7 @@ function(install_library target)
   install(EXPORT ${target}Targets NAMESPACE kesp:: DESTINATION ${package_dir})
 
   configure_file(${PROJECT_SOURCE_DIR}/cmake/config.cmake.in ${target}Config.cmake @ONLY)
-  write_basic_package_version_file(${target}ConfigVersion.cmake COMPATIBILITY SameMajorVersion)
+  write_basic_package_version_file(${target}ConfigVersion.cmake VERSION ${version} COMPATIBILITY SameMajorVersion)
   install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${target}Config.cmake
                 ${CMAKE_CURRENT_BINARY_DIR}/${target}ConfigVersion.cmake
           DESTINATION ${package_dir})

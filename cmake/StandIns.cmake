@@ -3,6 +3,10 @@
 # from the platform's own: it stops before it replaces one of those.
 
 set(mark "FuelGauge's stand-in for a platform library")
+# Their interfaces are the platform's: they do not change when the library's does.
+foreach(name IN ITEMS Logger FileSystem)
+  set(kesp_${name}_VERSION 1.0.0)
+endforeach()
 set(kesp_Logger_DESCRIPTION "Log records on standard error, where the platform has no logger")
 set(kesp_FileSystem_DESCRIPTION "Which paths exist, where the platform has no path library")
 
@@ -11,7 +15,7 @@ if(KESP_INSTALL)
     set(libdir "@CMAKE_INSTALL_LIBDIR@")
     cmake_path(ABSOLUTE_PATH libdir BASE_DIRECTORY "${CMAKE_INSTALL_PREFIX}")
     foreach(name IN ITEMS Logger FileSystem)
-      foreach(version IN ITEMS "" .@PROJECT_VERSION_MAJOR@ .@PROJECT_VERSION@)
+      foreach(version IN ITEMS "" .1 .@kesp_Logger_VERSION@)
         set(file "$ENV{DESTDIR}${libdir}/libkesp_${name}.so${version}")
         if(EXISTS "${file}")
           file(STRINGS "${file}" ours LIMIT_COUNT 1 REGEX "@mark@")

@@ -66,7 +66,9 @@ void* operator new(std::size_t size) {
 }
 // Not inline: GCC would see a free of what it knows to come from new.
 // A sanitizer's own would not ask the one above.
-void* operator new(std::size_t size, const std::nothrow_t&) noexcept { return std::malloc(size); }
+void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
+  return std::malloc(size);
+}
 [[gnu::noinline]] void operator delete(void* memory) noexcept {
   std::free(memory);
 }

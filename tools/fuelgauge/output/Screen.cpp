@@ -13,6 +13,7 @@
 
 #include "gauge/Concat.hpp"
 #include "output/Table.hpp"
+#include "output/Text.hpp"
 
 namespace fuelgauge {
 

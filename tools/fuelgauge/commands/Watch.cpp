@@ -38,8 +38,9 @@ double Seconds(const std::string& text) {
   std::istringstream stream(text);
   stream.imbue(std::locale::classic());
   double seconds = 0;
-  if (!(stream >> std::noskipws >> seconds) || stream.peek() != std::istream::traits_type::eof() ||
-      seconds < 0.1 || seconds > 86400) {
+  const bool whole =
+      stream >> std::noskipws >> seconds && stream.peek() == std::istream::traits_type::eof();
+  if (!whole || !(seconds >= 0.1 && seconds <= 86400)) {  // so that "nan" is refused
     throw CLI::ValidationError("--interval",
                                Concat("'", text, "' is not a number of seconds from 0.1 to 86400"));
   }

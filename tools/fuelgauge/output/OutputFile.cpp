@@ -10,7 +10,6 @@
 #include <csignal>
 #include <cstdio>
 #include <memory>
-#include <optional>
 #include <system_error>
 
 #include "gauge/Descriptor.hpp"
@@ -36,9 +35,9 @@ void RemoveLeftOvers(int folder, const std::string& prefix) {
       ::fdopendir(::openat(folder, ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC)), ::closedir);
   while (const dirent* const entry = entries ? ::readdir(entries.get()) : nullptr) {
     const std::string name = static_cast<const char*>(entry->d_name);
-    const auto process =
-        name.starts_with(prefix) ? WholeNumber<pid_t>(name.substr(prefix.size())) : std::nullopt;
-    if (process && (*process == ::getpid() || (::kill(*process, 0) != 0 && errno == ESRCH))) {
+    const pid_t process =
+        name.starts_with(prefix) ? WholeNumber<pid_t>(name.substr(prefix.size())).value_or(0) : 0;
+    if (process > 0 && (process == ::getpid() || (::kill(process, 0) != 0 && errno == ESRCH))) {
       ::unlinkat(folder, name.c_str(), 0);
     }
   }

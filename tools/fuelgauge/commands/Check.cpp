@@ -7,9 +7,8 @@
 
 #include "commands/Commands.hpp"
 #include "gauge/Concat.hpp"
-#include "gauge/ToolError.hpp"
+#include "gauge/Number.hpp"
 #include "judging/Findings.hpp"
-#include "judging/Limit.hpp"
 #include "output/Json.hpp"
 #include "output/Text.hpp"
 
@@ -123,12 +122,38 @@ ExitStatus Check(const Gauge& gauge, const CheckOptions& options) {
   return wrong ? ExitStatus::Findings : ExitStatus::Success;
 }
 
-void AddLimit(CLI::App& parser, const std::shared_ptr<CheckOptions>& options, const char* name,
-              Bound bound, const std::string& description) {
-  const auto add = [options, name, bound](const std::vector<std::string>& texts) {
+// A number that was not read breaks the rule, since nobody knows.
+Rule LimitOf(bool least, std::string_view text) {
+  const auto equals = text.find('=');
+  if (equals == 0 || equals == std::string_view::npos) {
+    throw UsageError(Concat("'", text, "' is not PROPERTY=NUMBER"));
+  }
+  const Property& property = FindProperty(text.substr(0, equals));
+  if (property.type != Type::Int) {
+    throw UsageError(Concat(property.name, " is not a number, and has no limits"));
+  }
+  const std::string_view digits = text.substr(equals + 1);
+  const auto limit = WholeNumber<int>(digits);
+  if (!limit) {
+    throw UsageError(Concat(property.name, ": '", digits, "' is not a whole number of 32 bits"));
+  }
+  return {
+      least ? "minimum" : "maximum", Severity::Error,
+      Concat(property.name, " must be at ", least ? "least " : "most ", Raw(*limit, property.unit)),
+      [id = property.id, least, limit = *limit](const Readings& readings) {
+        const auto number = readings.Number(id);
+        const bool kept = number && (least ? *number >= limit : *number <= limit);
+        return kept ? Evidence{} : Evidence{{&readings[id]}, {}, true};
+      }};
+}
+
+void AddLimit(CLI::App& parser, const std::shared_ptr<CheckOptions>& options, bool least,
+              const std::string& description) {
+  const auto* const name = least ? "--min" : "--max";
+  const auto add = [options, name, least](const std::vector<std::string>& texts) {
     try {
       for (const std::string& text : texts) {
-        options->limits.push_back(LimitOf(bound, text));
+        options->limits.push_back(LimitOf(least, text));
       }
     } catch (const UsageError& error) {
       throw CLI::ValidationError(name, error.text);
@@ -149,11 +174,10 @@ Action AddCheck(CLI::App& parser) {
                   "Lowest severity that ends with 1: notice, warning or error; default warning")
       ->type_name("LEVEL")
       ->check(CLI::IsMember(Severities).description(""));
-  AddLimit(parser, options, "--min", Bound::Minimum,
+  AddLimit(parser, options, true,
            "Error if below NUMBER, in the kernel's unit, or unreadable; repeatable; PROPERTY: " +
                PropertyNames([](const Property& each) { return each.type == Type::Int; }));
-  AddLimit(parser, options, "--max", Bound::Maximum,
-           "Error if above NUMBER, or unreadable; repeatable");
+  AddLimit(parser, options, false, "Error if above NUMBER, or unreadable; repeatable");
   return [options](const Request& request) { return Check(Gauge(request.One()), *options); };
 }
 

@@ -13,7 +13,6 @@
 #include "commands/Commands.hpp"
 #include "commands/NotEmpty.hpp"
 #include "gauge/Concat.hpp"
-#include "gauge/ToolError.hpp"
 #include "output/Message.hpp"
 
 namespace fuelgauge {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "gauge/ExitStatus.hpp"
+#include "gauge/ToolError.hpp"
 
 namespace fuelgauge {
 

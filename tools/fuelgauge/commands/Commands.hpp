@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
-#include "gauge/ExitStatus.hpp"
 #include "gauge/Gauge.hpp"
+#include "gauge/ToolError.hpp"
 
 namespace fuelgauge {
 

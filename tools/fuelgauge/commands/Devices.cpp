@@ -2,7 +2,6 @@
 #include <memory>
 
 #include "commands/Commands.hpp"
-#include "gauge/ToolError.hpp"
 #include "output/Json.hpp"
 #include "output/Table.hpp"
 #include "output/Text.hpp"

@@ -6,7 +6,6 @@
 #include "commands/Commands.hpp"
 #include "gauge/Concat.hpp"
 #include "gauge/LifetimeField.hpp"
-#include "gauge/ToolError.hpp"
 #include "output/Json.hpp"
 #include "output/Message.hpp"
 #include "output/Text.hpp"

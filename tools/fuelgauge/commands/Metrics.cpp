@@ -6,7 +6,6 @@
 #include "commands/Commands.hpp"
 #include "commands/NotEmpty.hpp"
 #include "gauge/Concat.hpp"
-#include "gauge/ToolError.hpp"
 #include "output/Exposition.hpp"
 #include "output/Message.hpp"
 #include "output/OutputFile.hpp"

@@ -11,8 +11,8 @@
 
 #include "gauge/Concat.hpp"
 #include "gauge/Errors.hpp"
+#include "gauge/Files.hpp"
 #include "gauge/LifetimeInput.hpp"
-#include "gauge/RegularFile.hpp"
 
 namespace fuelgauge {
 

@@ -5,8 +5,8 @@
 #include <sstream>
 
 #include "gauge/Concat.hpp"
+#include "gauge/Files.hpp"
 #include "gauge/Number.hpp"
-#include "gauge/RegularFile.hpp"
 #include "gauge/ToolError.hpp"
 
 namespace fuelgauge {

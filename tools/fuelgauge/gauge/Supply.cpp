@@ -1,54 +1,38 @@
 // SPDX-License-Identifier: MIT
 #include "gauge/Supply.hpp"
 
-#include <glob.h>
-#include <unistd.h>
-
-#include <array>
 #include <cerrno>
-#include <climits>
 #include <filesystem>
-#include <memory>
-#include <string_view>
+#include <system_error>
 
 #include "gauge/Chips.hpp"
 #include "gauge/Concat.hpp"
-#include "gauge/RegularFile.hpp"
+#include "gauge/Files.hpp"
 #include "gauge/ToolError.hpp"
 
 namespace fuelgauge {
 namespace {
 
-bool Exists(const std::string& path) {
-  return ::access(path.c_str(), F_OK) == 0;
-}
-
-// Those that the kernel has now, in the order of their names.
-std::vector<Supply> Supplies() {
-  glob_t folders{};
-  const std::unique_ptr<glob_t, void (*)(glob_t*)> guard(&folders, ::globfree);
-  ::glob(Concat(SupplyClass, "/*").c_str(), 0, nullptr, &folders);
-  return {folders.gl_pathv, folders.gl_pathv + folders.gl_pathc};
+// Those that the kernel has now. Without a class, there is none.
+std::vector<Supply> Supplies() try {
+  const std::vector<std::string> folders = PathsIn(SupplyClass);
+  return {folders.begin(), folders.end()};
+} catch (const UsageError&) {
+  return {};
 }
 
 // Empty when it cannot be read: a supply that is going, or a folder that is none.
-std::string FirstLine(const std::string& path) {
-  try {
-    const std::string text = ContentsOf(path);
-    return text.substr(0, text.find('\n'));
-  } catch (const UsageError&) {
-    return "";
-  }
-}
-
-bool IsPath(const std::string& device) {
-  return device == "." || device == ".." || device.find('/') != std::string::npos;
+std::string Attribute(const std::string& path) try {
+  return FirstLine(path);
+} catch (const UsageError&) {
+  return "";
 }
 
 }  // namespace
 
 Supply::Supply(const std::string& device)
-    : named(!IsPath(device)), folder(named ? Concat(SupplyClass, "/", device) : device) {}
+    : named(device != "." && device != ".." && device.find('/') == std::string::npos),
+      folder(named ? Concat(SupplyClass, "/", device) : device) {}
 
 std::string Supply::Name() const {
   const auto path = (std::filesystem::absolute(folder) / "").lexically_normal();
@@ -56,24 +40,20 @@ std::string Supply::Name() const {
 }
 
 std::string Supply::Type() const {
-  return FirstLine(folder + "/type");
+  return Attribute(folder + "/type");
 }
 
 bool Supply::IsOfDevice() const {
-  return FirstLine(folder + "/scope") == "Device";
+  return Attribute(folder + "/scope") == "Device";
 }
 
 // A vendor's driver for one of these gauges has a name like the kernel's, bq27xxx-battery. A gauge on a
 // single wire has the driver of all that is on such wires; there the supply's own name tells.
 bool Supply::HasOtherDriver() const {
-  std::array<char, PATH_MAX> link{};
-  const auto length = ::readlink((folder + "/device/driver").c_str(), link.data(), link.size());
-  if (length <= 0) {
-    return false;
-  }
-  std::string_view driver(link.data(), static_cast<std::size_t>(length));
-  driver.remove_prefix(driver.rfind('/') + 1);
-  return !driver.starts_with("bq27") &&
+  std::error_code none;
+  const auto link = std::filesystem::read_symlink(folder + "/device/driver", none);
+  const std::string driver = link.filename();
+  return !driver.empty() && !driver.starts_with("bq27") &&
          !(driver == "w1_slave_driver" && Name().starts_with("bq27"));
 }
 

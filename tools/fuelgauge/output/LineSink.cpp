@@ -67,15 +67,8 @@ std::string CsvLine(const std::string& time, const Readings& readings) {
 }
 
 std::string CsvField(std::string_view text) {
-  std::string safe = TerminalSafe(text);
-  if (safe.find_first_of(",\"") == std::string::npos) {
-    return safe;
-  }
-  std::string field = "\"";
-  for (const char byte : safe) {
-    field.append(byte == '"' ? 2 : 1, byte);
-  }
-  return field + "\"";
+  const bool plain = text.find_first_of(",\"") == std::string_view::npos;
+  return plain ? TerminalSafe(text) : Quoted(text, '"');
 }
 
 }  // namespace fuelgauge

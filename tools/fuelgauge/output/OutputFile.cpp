@@ -4,7 +4,6 @@
 #include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 #include <cerrno>
 #include <csignal>
@@ -12,6 +11,7 @@
 #include <memory>
 #include <system_error>
 
+#include "gauge/Concat.hpp"
 #include "gauge/Descriptor.hpp"
 #include "gauge/Number.hpp"
 #include "gauge/ToolError.hpp"
@@ -19,14 +19,9 @@
 namespace fuelgauge {
 namespace {
 
-// @return what @p call returns; throws what it failed with
-template <typename Call>
-auto Checked(const Call& call) {
-  const auto result = Uninterrupted(call);
-  if (result < 0) {
-    throw std::system_error(errno, std::generic_category());
-  }
-  return result;
+// @return the @p result of a system call; throws what it failed with
+auto Checked(auto result) {
+  return result >= 0 ? result : throw std::system_error(errno, std::generic_category());
 }
 
 // Those of runs that were killed. One that still runs keeps its own.
@@ -43,13 +38,28 @@ void RemoveLeftOvers(int folder, const std::string& prefix) {
   }
 }
 
+// A file that is to take the place of a regular one, or of none.
+int New(int folder, const std::string& name, const std::string& prefix,
+        const std::string& temporary) {
+  struct stat found {};
+  const bool exists = ::fstatat(folder, name.c_str(), &found, AT_SYMLINK_NOFOLLOW) == 0;
+  if (!name.empty() && (!exists || S_ISREG(found.st_mode))) {
+    RemoveLeftOvers(folder, prefix);
+    constexpr int flags = O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC;
+    const int file = ::openat(folder, temporary.c_str(), flags, 0600);
+    if (file >= 0 || errno != ENOENT || !exists) {
+      return Checked(file);
+    }  // /proc has files, and takes none
+  }
+  throw std::runtime_error("it is not a regular file");
+}
+
 void Fill(int file, std::string_view text) {
   while (!text.empty()) {
-    text.remove_prefix(
-        static_cast<std::size_t>(Checked([&] { return ::write(file, text.data(), text.size()); })));
+    text.remove_prefix(static_cast<std::size_t>(Checked(::write(file, text.data(), text.size()))));
   }
-  Checked([&] { return ::fchmod(file, 0644); });  // a collector runs as another user
-  Checked([&] { return ::fsync(file); });
+  Checked(::fchmod(file, 0644));  // a collector runs as another user
+  Checked(::fsync(file));
 }
 
 }  // namespace
@@ -59,42 +69,25 @@ void PutInPlace(const std::string& path, std::string_view text) {
   const std::string name = path.substr(slash);
   const std::string prefix = "." + name + ".";  // not one that a textfile collector reads
   const std::string temporary = prefix + std::to_string(::getpid());
-  std::string outcome = "' was not written: ";
+  std::string outcome = "was not written";
   try {
-    const Descriptor folder(Checked([folderName = path.substr(0, slash) + "."] {
-      return ::open(folderName.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    }));
-    struct stat found {};
-    const int error = ::fstatat(folder, name.c_str(), &found, AT_SYMLINK_NOFOLLOW) == 0 ? 0 : errno;
-    const auto refuse = [&path, &outcome] {
-      throw ToolError(ExitStatus::OutputError, "'" + path + outcome + "it is not a regular file");
-    };
-    if (name.empty() || (error == 0 && !S_ISREG(found.st_mode))) {
-      refuse();
-    }
-    RemoveLeftOvers(folder, prefix);
-    const Descriptor file(Checked([&] {
-      const int made =
-          ::openat(folder, temporary.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
-      if (made < 0 && errno == ENOENT && error == 0) {  // there are no others in /proc
-        refuse();
-      }
-      return made;
-    }));
+    const Descriptor folder(
+        Checked(::open((path.substr(0, slash) + ".").c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)));
+    const Descriptor file(New(folder, name, prefix, temporary));
     try {
       Fill(file, text);
-      Checked([&] { return ::renameat(folder, temporary.c_str(), folder, name.c_str()); });
+      Checked(::renameat(folder, temporary.c_str(), folder, name.c_str()));
     } catch (...) {
       ::unlinkat(folder, temporary.c_str(), 0);
       throw;
     }
-    outcome = "' was written, but may not outlast a power cut: ";
-    Checked([&folder] {
-      const int result = ::fsync(folder);
-      return result != 0 && errno == EINVAL ? 0 : result;  // this file system syncs no folders
-    });
-  } catch (const std::system_error& failure) {
-    throw ToolError(ExitStatus::OutputError, "'" + path + outcome + failure.code().message());
+    outcome = "was written, but may not outlast a power cut";
+    if (::fsync(folder) != 0 && errno != EINVAL) {  // which is a file system that syncs no folders
+      Checked(-1);
+    }
+  } catch (const std::runtime_error& failure) {
+    throw ToolError(ExitStatus::OutputError,
+                    Concat("'", path, "' ", outcome, ": ", failure.what()));
   }
 }
 

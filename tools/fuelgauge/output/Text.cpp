@@ -61,6 +61,14 @@ std::string TerminalSafe(std::string_view text) {
   return safe;
 }
 
+std::string Quoted(std::string_view text, char escape) {
+  std::string quoted = "\"";
+  for (const char byte : TerminalSafe(text)) {
+    quoted.append(byte == '"' || byte == escape ? 1 : 0, escape).append(1, byte);
+  }
+  return quoted + "\"";
+}
+
 std::string_view FirstCharacter(std::string_view text) {
   const auto* const next = std::find_if(text.begin() + 1, text.end(), [](char byte) {
     return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U;

@@ -13,6 +13,9 @@ namespace fuelgauge {
 ///         another order than it has.
 std::string TerminalSafe(std::string_view text);
 
+/// @return the same in quotes, with @p escape before each quote and each @p escape in it
+std::string Quoted(std::string_view text, char escape);
+
 /// @return the first character of @p text (UTF-8), which is not empty
 std::string_view FirstCharacter(std::string_view text);
 

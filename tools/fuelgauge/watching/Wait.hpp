@@ -3,7 +3,7 @@
 
 #include <chrono>
 
-#include "gauge/ExitStatus.hpp"
+#include "gauge/ToolError.hpp"
 
 namespace fuelgauge {
 

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "commands/CommandLine.hpp"
 
-#include <algorithm>
 #include <array>
 #include <cstdlib>
 #include <exception>
@@ -11,6 +10,7 @@
 #include <utility>
 
 #include "commands/Commands.hpp"
+#include "commands/Help.hpp"
 #include "commands/NotEmpty.hpp"
 #include "gauge/Concat.hpp"
 #include "output/Message.hpp"
@@ -36,13 +36,15 @@ constexpr auto Commands = std::to_array<Command>({
 });
 
 // The words of the command line, the last one first, as CLI11 wants them. Behind "--device=" it would
-// take the next word for the value, and "[a=1,b=2]" for two words.
+// take the next word for the value, "[a=1,b=2]" for two words, and of "-v=false" it would tell a part.
 std::vector<std::string> Words(int argc, char** argv) {
   std::vector<std::string> words;
   for (int i = argc - 1; i > 0; --i) {
     std::string word = argv[i];
-    const bool value = std::string_view(argv[i - 1]).starts_with("--");
-    if (!value && word.starts_with('[') && word.ends_with(']')) {
+    const bool list = word.starts_with('[') && word.ends_with(']') &&
+                      !std::string_view(argv[i - 1]).starts_with("--");
+    const bool flag = word.size() > 2 && word[0] == '-' && word[1] != '-' && word[2] == '=';
+    if (list || flag) {
       throw UsageError(Concat("not expected: '", word, "'; 'fuelgauge --help' shows the usage"));
     }
     if (word.starts_with("--") && word.ends_with("=")) {
@@ -54,27 +56,16 @@ std::vector<std::string> Words(int argc, char** argv) {
   return words;
 }
 
-// @return the word of which CLI11 has left @p rest, such as "-=false" of "-v=false"
-std::string AsGiven(const std::string& rest, const std::vector<std::string>& words) {
-  const auto given = std::find_if(words.begin(), words.end(), [&rest](const std::string& word) {
-    return word.starts_with('-') && word.ends_with(rest.substr(1));
-  });
-  return rest.starts_with('-') && given != words.end() ? *given : rest;
-}
-
 // @return what is wrong, and the help that has the option or the word in question
-std::string Explain(const CLI::ParseError& error, const CLI::App& app,
-                    const std::vector<std::string>& words) {
+std::string Explain(const CLI::ParseError& error, const CLI::App& app) {
   std::string text = error.what();
-  const auto is = [&error](CLI::ExitCodes code) {
-    return error.get_exit_code() == static_cast<int>(code);
-  };
+  const auto code = static_cast<CLI::ExitCodes>(error.get_exit_code());
   const std::vector<std::string> remaining = app.remaining(true);  // in the order given
-  if (is(CLI::ExitCodes::ExtrasError) ||
-      (is(CLI::ExitCodes::RequiredError) && !remaining.empty())) {
+  if (!remaining.empty() &&
+      (code == CLI::ExitCodes::ExtrasError || code == CLI::ExitCodes::RequiredError)) {
     text = "not expected:";
     for (const std::string& word : remaining) {
-      text += Concat(" '", AsGiven(word, words), "'");
+      text += Concat(" '", word, "'");
     }
   }
   const auto commands = app.get_subcommands();
@@ -88,9 +79,11 @@ ExitStatus Run(int argc, char** argv) {
   bool verbose = false;
   CLI::App app("Reads, writes and resets the properties of a BQ27542 battery fuel gauge.",
                "fuelgauge");
+  app.formatter_fn(Help);
+  app.set_help_flag("-h,--help", "Show this help");
   app.require_subcommand(0, 1);  // none is refused below: CLI11 would not name a wrong word
   app.fallthrough();             // the options below may stand behind the command as well
-  app.set_version_flag("--version", "fuelgauge " KESP_VERSION);
+  app.set_version_flag("--version", "fuelgauge " KESP_VERSION, "Show the version");
   app.add_option("--device", request.devices,
                  Concat("A supply's name in ", SupplyClass, ", or its folder; default ",
                         GaugeOptions().device))
@@ -109,14 +102,13 @@ ExitStatus Run(int argc, char** argv) {
     parser->callback([&action, run = command.add(*parser)] { action = run; });
   }
 
-  const std::vector<std::string> words = Words(argc, argv);
   try {
-    app.parse(std::vector<std::string>(words));
+    app.parse(Words(argc, argv));
   } catch (const CLI::Success& help) {  // or the version
     app.exit(help);
     return ExitStatus::Success;
   } catch (const CLI::ParseError& error) {
-    throw UsageError(Explain(error, app, words));
+    throw UsageError(Explain(error, app));
   }
   if (!action) {
     throw UsageError("no command given; 'fuelgauge --help' shows them all");

@@ -10,6 +10,7 @@
 #include <memory>
 #include <sstream>
 #include <string_view>
+#include <utility>
 
 #include "commands/Commands.hpp"
 #include "gauge/Concat.hpp"
@@ -76,49 +77,22 @@ std::unique_ptr<Sink> SinkFor(const WatchOptions& options) {
   return std::make_unique<LineSink>(TextLine, true);
 }
 
-// Tells once that the gauge is gone, and once that it is back.
-class Presence {
- public:
-  void Tell(const Gauge& gauge, const Readings& readings, const std::string& time, Sink& sink) {
-    const bool nowThere = readings.AnySucceeded();
-    if (nowThere && !there) {
-      sink.Notice("gauge found at " + time);
-    } else if (!nowThere && there) {
-      sink.Notice(gauge.Missing(readings) + (lastSeen.empty() ? "" : "; last read at " + lastSeen));
-    }
-    there = nowThere;
-    lastSeen = nowThere ? time : lastSeen;
-  }
-
-  bool Ever() const { return !lastSeen.empty(); }
-
- private:
-  bool there = true;
-  std::string lastSeen;
-};
-
 // @return whether the watch goes on
 bool WaitUntil(steady_clock::time_point next, const Events& events, Sink& sink) {
+  using Cause = Wait::Cause;
   while (true) {
-    switch (Wait::Until(next, events.Number())) {
-      case Wait::Cause::Time:
-        return true;
-      case Wait::Cause::Events:
-        if (events.Take()) {
-          return true;
-        }
-        break;
-      case Wait::Cause::Signal:
-        std::cout << (::isatty(STDOUT_FILENO) != 0 ? "\n" : "") << std::flush;  // behind "^C"
-        return false;
-      case Wait::Cause::Reader:
-        return false;
-      case Wait::Cause::Window:
-        sink.Redraw(false);
-        break;
-      case Wait::Cause::Shell:
-        sink.Redraw(true);
-        break;
+    const Cause cause = Wait::Until(next, events.Number());
+    if (cause == Cause::Time || (cause == Cause::Events && events.Take())) {
+      return true;
+    }
+    if (cause == Cause::Signal && ::isatty(STDOUT_FILENO) != 0) {
+      std::cout << "\n" << std::flush;  // behind "^C"
+    }
+    if (cause == Cause::Signal || cause == Cause::Reader) {
+      return false;
+    }
+    if (cause != Cause::Events) {
+      sink.Redraw(cause == Cause::Shell);
     }
   }
 }
@@ -133,7 +107,8 @@ ExitStatus Watch(const Gauge& gauge, const WatchOptions& options) {
   const Summary::Seconds seconds(options.intervalSeconds);
   const auto interval = std::chrono::duration_cast<steady_clock::duration>(seconds);
   Summary summary(seconds);
-  Presence presence;
+  bool there = true;
+  std::string lastSeen;
   auto next = steady_clock::now();
   for (std::uint64_t taken = 1;; ++taken) {
     const bool due = steady_clock::now() >= next;  // else an event comes between
@@ -141,8 +116,14 @@ ExitStatus Watch(const Gauge& gauge, const WatchOptions& options) {
     const Summary::Seconds moment = SinceStart();
     const Readings readings = gauge.ReadAll();
     summary.Add(moment, readings);
-    presence.Tell(gauge, readings, time, *sink);
-    const ExitStatus status = presence.Ever() ? ExitStatus::Success : ExitStatus::FileError;
+    const bool wasThere = std::exchange(there, readings.AnySucceeded());
+    if (there != wasThere) {
+      sink->Notice(there ? "gauge found at " + time
+                         : gauge.Missing(readings) +
+                               (lastSeen.empty() ? "" : "; last read at " + lastSeen));
+    }
+    lastSeen = there ? time : lastSeen;
+    const ExitStatus status = lastSeen.empty() ? ExitStatus::FileError : ExitStatus::Success;
     Wait::EndWith(status);
     sink->Sample(time, readings);
     if (due) {
@@ -176,8 +157,8 @@ Action AddWatch(CLI::App& parser) {
       ->type_name("N");
   parser.add_flag("--events", options->events,
                   "A sample also when the kernel announces a change of the supply");
-  CLI::Option* const csv =
-      parser.add_flag("--csv", options->csv, "A header, then one line of raw numbers per sample");
+  CLI::Option* const csv = parser.add_flag(
+      "--csv", options->csv, "A header, then one line of raw numbers per sample; not with --json");
   parser.add_flag("--json", options->json, "One line of JSON per sample")->excludes(csv);
   return [options](const Request& request) { return Watch(Gauge(request.One()), *options); };
 }

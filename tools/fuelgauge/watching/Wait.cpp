@@ -5,6 +5,7 @@
 #include <termios.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
 #include <csignal>
 #include <ctime>
@@ -14,9 +15,7 @@ namespace {
 
 // NOLINTBEGIN(cppcoreguidelines-avoid-non-const-global-variables): a handler sees nothing else
 volatile std::sig_atomic_t endStatus = static_cast<int>(ExitStatus::FileError);
-volatile std::sig_atomic_t ended = 0;
-volatile std::sig_atomic_t resized = 0;
-volatile std::sig_atomic_t continued = 0;
+volatile std::sig_atomic_t came = 0;  // a Cause: the greatest since it was taken last
 // NOLINTEND(cppcoreguidelines-avoid-non-const-global-variables)
 
 // The handlers call only what a handler may call.
@@ -30,13 +29,13 @@ extern "C" void EndNow(int /*signal*/) {
   ::_exit(endStatus);
 }
 
-extern "C" void EndSoon(int /*signal*/) {
-  ended = 1;
-  ::alarm(1);
-}
-
 extern "C" void Note(int signal) {
-  (signal == SIGWINCH ? resized : continued) = 1;
+  using enum Wait::Cause;
+  const auto cause = signal == SIGWINCH ? Window : signal == SIGCONT ? Shell : Signal;
+  if (cause == Signal) {
+    ::alarm(1);
+  }
+  came = std::max(static_cast<int>(cause), int{came});
 }
 
 void Handle(int signal, void (*handler)(int), unsigned flags) {
@@ -50,15 +49,10 @@ void Handle(int signal, void (*handler)(int), unsigned flags) {
   }
 }
 
-// What has come since this was asked last.
 Wait::Cause Came() {
-  using enum Wait::Cause;
-  const auto taken = [](volatile std::sig_atomic_t& flag) {
-    const bool set = flag != 0;
-    flag = 0;
-    return set;
-  };
-  return ended != 0 ? Signal : taken(continued) ? Shell : taken(resized) ? Window : Time;
+  const auto cause = static_cast<Wait::Cause>(came);
+  came = cause == Wait::Cause::Signal ? came : 0;
+  return cause;
 }
 
 }  // namespace
@@ -66,7 +60,7 @@ Wait::Cause Came() {
 Wait::Wait() {
   Handle(SIGALRM, EndNow, 0);
   for (const int signal : {SIGINT, SIGTERM}) {
-    Handle(signal, EndSoon, SA_RESETHAND | SA_NODEFER | SA_RESTART);  // the second one kills
+    Handle(signal, Note, SA_RESETHAND | SA_NODEFER | SA_RESTART);  // the second one kills
   }
   for (const int signal : {SIGWINCH, SIGCONT}) {
     Handle(signal, Note, SA_RESTART);
@@ -81,21 +75,18 @@ void Wait::EndWith(ExitStatus status) {
 }
 
 Wait::Cause Wait::Until(std::chrono::steady_clock::time_point time, int events) {
-  using std::chrono::nanoseconds;
   sigset_t all;
   sigset_t none;
   ::sigfillset(&all);
   ::sigprocmask(SIG_SETMASK, &all, &none);  // now or in the wait: none is lost between
   Cause cause = Came();
-  for (nanoseconds left{}; cause == Cause::Time;) {
-    left = time - std::chrono::steady_clock::now();
-    if (left <= nanoseconds(0)) {
+  while (cause == Cause::Time) {
+    const std::chrono::nanoseconds left = time - std::chrono::steady_clock::now();
+    if (left.count() <= 0) {
       break;
     }
-    const auto seconds = std::chrono::floor<std::chrono::seconds>(left);
-    timespec timeout{};
-    timeout.tv_sec = static_cast<std::time_t>(seconds.count());
-    timeout.tv_nsec = static_cast<long>((left - seconds).count());
+    const timespec timeout{static_cast<std::time_t>(left.count() / 1000000000),
+                           static_cast<long>(left.count() % 1000000000)};
     // Without a question, the output tells that the reader has gone.
     std::array<pollfd, 2> files = {{{STDOUT_FILENO, 0, 0}, {events, POLLIN, 0}}};
     const bool came = ::ppoll(files.data(), files.size(), &timeout, &none) > 0;

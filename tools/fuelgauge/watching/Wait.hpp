@@ -19,11 +19,11 @@ class Wait {
   /// What ended a wait.
   enum class Cause {
     Time,
+    Window,  ///< it has another size
+    Shell,   ///< it was there meanwhile
     Signal,  ///< the watch is to end
     Events,
     Reader,  ///< nobody reads the output any more
-    Window,  ///< it has another size
-    Shell,   ///< it was there meanwhile
   };
 
   Wait();

@@ -90,7 +90,7 @@ std::string Reading::Reason() const {
                                  ? "whole number from 0 to 4294967295"
                                  : "whole number of 32 bits";
   return text.empty() ? "the file held no " + number
-                      : "'" + Shortened(text) + "' is not a " + number;
+                      : Concat("'", Shortened(text), "' is not a ", number);
 }
 
 bool Reading::MayBeMissing() const {

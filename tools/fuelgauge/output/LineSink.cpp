@@ -40,11 +40,8 @@ std::string TextLine(const std::string& time, const Readings& readings) {
 
 std::string JsonLine(const std::string& time, const Readings& readings) {
   Json line = {{"time", time}};
-  for (const Reading& reading : readings) {
-    if (reading.property->type != Type::Lifetime) {
-      line[std::string(reading.property->name)] = ToJson(reading);
-    }
-  }
+  line.update(ToJson(readings));
+  line.erase(std::string(dral::NameOf(LifetimeData)));
   return TerminalSafe(line.dump(-1, ' ', false, Json::error_handler_t::replace));
 }
 
@@ -60,7 +57,7 @@ std::string CsvLine(const std::string& time, const Readings& readings) {
   std::string line = time;
   for (const Reading& reading : readings) {
     if (reading.property->type != Type::Lifetime) {
-      line += "," + CsvField(reading.Bare());
+      line.append(",").append(CsvField(reading.Bare()));
     }
   }
   return line;

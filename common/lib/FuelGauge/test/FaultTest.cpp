@@ -55,7 +55,7 @@ int stat(const char* path, struct stat* result) {
 }
 }
 
-void* operator new(std::size_t size) {
+[[gnu::noinline]] void* operator new(std::size_t size) {
   void* const memory = allocationsLeft != 0 ? std::malloc(size) : nullptr;
   if (memory == nullptr) {
     errno = ENOMEM;

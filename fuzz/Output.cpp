@@ -4,35 +4,17 @@
 #include <Bq27542FuelGauge.hpp>
 #include <algorithm>
 #include <charconv>
-#include <iostream>
 #include <set>
-#include <sstream>
 
+#include "Printed.hpp"
 #include "Target.hpp"
 #include "commands/Commands.hpp"
-#include "output/Json.hpp"
 #include "output/LineSink.hpp"
 #include "support/TemporaryFolder.hpp"
 
 using namespace fuelgauge;
 
 namespace {
-
-std::istringstream Printed(const std::function<void()>& print) {
-  std::stringbuf text;
-  auto* const before = std::cout.rdbuf(&text);
-  print();
-  std::cout.rdbuf(before);
-  (void)Json(text.str()).dump();  // throws on what is no UTF-8
-  unsigned char last = 0;
-  for (const char each : text.str()) {
-    const auto byte = static_cast<unsigned char>(each);
-    const bool c1 = last == 0xC2 && byte < 0xA0;
-    Require((byte >= 0x20 || each == '\n') && byte != 0x7F && !c1);
-    last = byte;
-  }
-  return std::istringstream(text.str());
-}
 
 // The line without what its quotes hold, where a `\` may escape a quote.
 std::string Unquoted(const std::string& line, bool escapes) {

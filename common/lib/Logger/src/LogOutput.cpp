@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "LogOutput.hpp"
 
+#include <pthread.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -109,12 +110,17 @@ LogClient::LogClient(std::string_view source, std::string_view function, int lin
   text.imbue(std::locale::classic());
 }
 
+// A thread that another one cancels is unwound out of write(2); out of a destructor, that would end the whole
+// process. So the cancellation waits for the thread's next system call.
 LogClient::~LogClient() {
+  int before = 0;
+  ::pthread_setcancelstate(PTHREAD_CANCEL_DISABLE, &before);
   try {
     Emit({source, function, line, level, category, text.str()});
   } catch (...) {
     WriteToStandardError("<3>a log record was lost: out of memory, or its sink threw\n");
   }
+  ::pthread_setcancelstate(before, nullptr);
 }
 
 }  // namespace dral

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
+#include <pthread.h>
 #include <LogOutput.hpp>
 
 #include <cstdlib>
 #include <stdexcept>
 #include <string>
+#include <thread>
 
 using namespace dral;
 
@@ -19,6 +21,15 @@ TEST(LogOutput, LinesAreWhatJournaldReads) {
   EXPECT_EQ(Emitted(8, "text\n\n"), "<7>lib/src/Class:Function:12: text\n");
   EXPECT_EQ(Emitted(3, " ~\n<0>forged\x1f\x1b[2J\x7f \xc2\x9b\xff"),
             "<3>lib/src/Class:Function:12:  ~\\x0a<0>forged\\x1f\\x1b[2J\\x7f \\xc2\\x9b\\xff\n");
+}
+
+TEST(LogOutput, AThreadThatIsCancelledWhileItLogsEndsAlone) {
+  testing::internal::CaptureStderr();
+  std::thread([] {
+    ::pthread_cancel(::pthread_self());
+    LogClient("s", "f", 1, LogLevel{3}, LogCategory{1}) << "text";
+  }).join();
+  EXPECT_EQ(testing::internal::GetCapturedStderr(), "<3>s:f:1: text\n");
 }
 
 TEST(LogOutput, ASinkAloneGetsEachRecordWhole) {

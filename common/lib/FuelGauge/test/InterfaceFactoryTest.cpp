@@ -19,7 +19,7 @@ TEST(InterfaceFactory, EveryNameBuildsTheGauge) {
     const auto gauge = InterfaceFactory::Create<FuelGaugeIF, std::string_view>(name, "");
     EXPECT_NE(dynamic_cast<Bq27542FuelGauge*>(gauge.get()), nullptr) << name;
   }
-  EXPECT_EQ((IF<FuelGaugeIF>::ifConstructors<std::string_view>.size()), 2U);
+  EXPECT_EQ((IF<FuelGaugeIF>::ifConstructors<std::string_view>.count("Bq27542FuelGauge")), 1U);
   EXPECT_THROW((InterfaceFactory::Create<FuelGaugeIF, std::string>("DefaultIF", "")),
                std::out_of_range);  // another registry, which is empty
 }

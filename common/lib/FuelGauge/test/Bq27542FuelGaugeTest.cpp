@@ -96,6 +96,16 @@ TEST_F(Bq27542FuelGaugeTest, TheDefaultPropertiesAreReadOnlyButForTheRecord) {
       "ChargeLevel capacity_level Temperature temp NominalAvailableCapacity charge_now "
       "FullChargeCapacity charge_full CycleCount cycle_count PowerAverage power_avg "
       "Health health TimeToEmpty time_to_empty_now LifetimeData lifetime_data");
+  using Gauge = Bq27542FuelGauge;
+  std::stringstream constants;
+  constants << Gauge::NamePropertyInfo << Gauge::TechnologyPropertyInfo << Gauge::StatusPropertyInfo
+            << Gauge::PresentPropertyInfo << Gauge::VoltageNowPropertyInfo
+            << Gauge::CurrentNowPropertyInfo << Gauge::StateOfChargePropertyInfo
+            << Gauge::ChargeLevelPropertyInfo << Gauge::TemperaturePropertyInfo
+            << Gauge::NominalAvailableCapacityPropertyInfo << Gauge::FullChargeCapacityPropertyInfo
+            << Gauge::CycleCountPropertyInfo << Gauge::PowerAveragePropertyInfo
+            << Gauge::HealthPropertyInfo << Gauge::TimeToEmptyPropertyInfo
+            << Gauge::LifetimeDataPropertyInfo;
   std::string name;
   std::string file;
   for (std::uint32_t number = 0; number < 16; ++number) {
@@ -108,6 +118,8 @@ TEST_F(Bq27542FuelGaugeTest, TheDefaultPropertiesAreReadOnlyButForTheRecord) {
         " , resettable=" + flag + " , location=/sys/class/power_supply/bq27542-0/" + file +
         " , resetValue=" + (record ? "binaryData" : "") + " , binary=" + flag + "\n\n\n";
     EXPECT_NE(dump.find(line), std::string::npos) << line;
+    std::getline(constants, name);
+    EXPECT_NE(line.find(name + "\n"), std::string::npos) << name;
     EXPECT_EQ(Describe(gauge.Set(FuelGaugeProperty{number}, 5)), record ? "3 ENOENT" : "2");
   }
 }

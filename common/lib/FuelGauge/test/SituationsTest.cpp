@@ -30,6 +30,7 @@ const Situation situations[] = {
 };
 
 static void AskAll() {
+  LogOutput::SetSink({});  // by both threads at once
   for (const Situation& each : situations) {
     const TemporaryFolder folder;
     folder.Write("empty", "");

@@ -90,6 +90,14 @@ TEST(Fault, AReadErrorEndsAnOverrideFileAndDropsTheWordThatItCuts) {
   }
 }
 
+TEST(Fault, ALogLineIsWholeThoughItsWritesAreShortAndInterrupted) {
+  testing::internal::CaptureStderr();
+  fault = {"write", 1, EINTR, 3};
+  LogClient("source", "function", 1, LogLevel{3}, LogCategory{1}) << "text";
+  fault = {};
+  EXPECT_EQ(testing::internal::GetCapturedStderr(), "<3>source:function:1: text\n");
+}
+
 TEST(Fault, EveryAllocationThatFailsIsAFailureAndChangesNothing) {
   const auto property = FuelGaugeProperty::LifetimeData;
   FolderGauge at;

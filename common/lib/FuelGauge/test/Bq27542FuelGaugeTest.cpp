@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
+#include <FuelGaugeNames.hpp>
 #include <algorithm>
 #include <chrono>
 #include <future>
@@ -63,6 +64,7 @@ TEST_F(Bq27542FuelGaugeTest, AnswersTheResetValueOfItsMapAndTheOverrideFile) {
 TEST_F(Bq27542FuelGaugeTest, TurnsExceptionsIntoLoggedFailures) {
   const FuelGaugeProperty unknown{17};
   Bq27542FuelGauge noFile("", MapOf(unknown, {.settable = true}));
+  EXPECT_TRUE(NameOf(unknown).empty() && NameOf(FuelGaugeStatus{1}).empty());
   EXPECT_EQ(Describe(gauge.Get(unknown, "abc")), "2 string abc");
   EXPECT_EQ(Describe(gauge.Set(ResetValue, 1)), "2");
   EXPECT_EQ(Describe(gauge.Reset(unknown)), "2");

@@ -44,6 +44,8 @@ TEST(LifetimeDataParser, OverridesWhatTheFileNames) {
   for (const auto& [text, outcome] : cases) {
     EXPECT_EQ(Parse(folder.Write("override", text)), outcome) << text;
   }
+  LifetimeDataParser::kv_pair pair;
+  EXPECT_TRUE(std::istringstream(" a\nb") >> pair && pair.key + pair.value == "ab");
   LifetimeData given{1, 1500, 3, 4, 5, 6};
   given.reserved.fill(7);
   LifetimeData repaired = given;

@@ -64,7 +64,11 @@ TEST_F(Bq27542FuelGaugeTest, AnswersTheResetValueOfItsMapAndTheOverrideFile) {
 TEST_F(Bq27542FuelGaugeTest, TurnsExceptionsIntoLoggedFailures) {
   const FuelGaugeProperty unknown{17};
   Bq27542FuelGauge noFile("", MapOf(unknown, {.settable = true}));
-  EXPECT_TRUE(NameOf(unknown).empty() && NameOf(FuelGaugeStatus{1}).empty());
+  std::string names(NameOf(unknown));
+  for (std::uint32_t status = 0; status < 6; ++status) {
+    names.append(NameOf(FuelGaugeStatus{status})).append(",");
+  }
+  EXPECT_EQ(names, "Success,,Failure,FileError,NoData,,");
   EXPECT_EQ(Describe(gauge.Get(unknown, "abc")), "2 string abc");
   EXPECT_EQ(Describe(gauge.Set(ResetValue, 1)), "2");
   EXPECT_EQ(Describe(gauge.Reset(unknown)), "2");

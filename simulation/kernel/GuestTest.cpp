@@ -94,14 +94,6 @@ TEST_F(Guest, EachFaultOfTheChipHasItsAnswer) {
   EXPECT_EQ(Get(Record, ""), "4 EIO string ");
 }
 
-TEST_F(Guest, ARefusedWriteIsASuccessThatLeavesTheRecord) {
-  const std::string kept(32, 'r');
-  ASSERT_TRUE(Write(RecordFile, kept));
-  const Knob refused("record_write_error", EPERM);
-  EXPECT_EQ(Describe(gauge.Reset(Record)), "0 EPERM");
-  EXPECT_EQ(Get(Record, ""), "0 string " + kept);
-}
-
 TEST_F(Guest, UnboundAndBoundAgainWhileTwoThreadsRead) {
   const Knob slow("bus_delay_ms", 2);  // so that reads are under way when the device goes
   const auto before = OpenFiles();

@@ -96,12 +96,6 @@ TEST_F(Bq27542FuelGaugeTest, TheDefaultPropertiesAreReadOnlyButForTheRecord) {
   Bq27542FuelGauge("").DumpPropertyMap();
   const std::string dump = log.Take();
   EXPECT_EQ(std::ranges::count(dump, '\n'), 16 * 3);
-  std::istringstream names(
-      "Manufacturer manufacturer Technology technology Status status Present present "
-      "VoltageNow voltage_now CurrentNow current_now StateOfCharge capacity "
-      "ChargeLevel capacity_level Temperature temp NominalAvailableCapacity charge_now "
-      "FullChargeCapacity charge_full CycleCount cycle_count PowerAverage power_avg "
-      "Health health TimeToEmpty time_to_empty_now LifetimeData lifetime_data");
   using Gauge = Bq27542FuelGauge;
   std::stringstream constants;
   constants << Gauge::NamePropertyInfo << Gauge::TechnologyPropertyInfo << Gauge::StatusPropertyInfo
@@ -112,20 +106,22 @@ TEST_F(Bq27542FuelGaugeTest, TheDefaultPropertiesAreReadOnlyButForTheRecord) {
             << Gauge::CycleCountPropertyInfo << Gauge::PowerAveragePropertyInfo
             << Gauge::HealthPropertyInfo << Gauge::TimeToEmptyPropertyInfo
             << Gauge::LifetimeDataPropertyInfo;
-  std::string name;
-  std::string file;
   for (std::uint32_t number = 0; number < 16; ++number) {
     const bool record = number == 15;
     const std::string flag = record ? "1" : "0";
-    names >> name >> file;
-    const std::string line =
-        "3 Bq27542FuelGauge DumpPropertyMap: Type: " + std::to_string(number) +
-        " : dral::PropertyInfo:    propertyName=" + name + " , settable=" + flag +
-        " , resettable=" + flag + " , location=/sys/class/power_supply/bq27542-0/" + file +
-        " , resetValue=" + (record ? "binaryData" : "") + " , binary=" + flag + "\n\n\n";
-    EXPECT_NE(dump.find(line), std::string::npos) << line;
-    std::getline(constants, name);
-    EXPECT_NE(line.find(name + "\n"), std::string::npos) << name;
+    const auto& row = FuelGaugePropertyRows.at(number);
+    std::string info;
+    std::getline(constants, info);
+    const std::string line = "dral::PropertyInfo:    propertyName=" +
+                             std::string(number == 0 ? "Manufacturer" : row.name) +
+                             " , settable=" + flag + " , resettable=" + flag +
+                             " , location=/sys/class/power_supply/bq27542-0/" +
+                             std::string(row.attribute) +
+                             " , resetValue=" + (record ? "binaryData" : "") + " , binary=" + flag;
+    EXPECT_EQ(info, line);
+    EXPECT_NE(dump.find("3 Bq27542FuelGauge DumpPropertyMap: Type: " + std::to_string(number) +
+                        " : " + line + "\n\n\n"),
+              std::string::npos);
     EXPECT_EQ(Describe(gauge.Set(FuelGaugeProperty{number}, 5)), record ? "3 ENOENT" : "2");
   }
 }

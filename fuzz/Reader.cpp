@@ -2,6 +2,7 @@
 // A file of any bytes, read as each type of text: numbers are the standard library's in the C locale.
 #include <stdexcept>
 #include <string>
+#include <typeinfo>
 #include <utility>
 
 #include "Readable.hpp"
@@ -14,16 +15,10 @@ namespace {
 
 // What came, or the kind and the text of the exception.
 template <typename Read>
-auto Outcome(Read read) {
-  std::pair<std::string, decltype(read())> outcome;
-  try {
-    outcome.second = read();
-  } catch (const std::invalid_argument& error) {
-    outcome.first = std::string("invalid ") + error.what();
-  } catch (const std::out_of_range& error) {
-    outcome.first = std::string("range ") + error.what();
-  }
-  return outcome;
+auto Outcome(Read read) -> std::pair<std::string, decltype(read())> try {
+  return {"", read()};
+} catch (const std::logic_error& error) {
+  return {std::string(typeid(error).name()) + error.what(), {}};
 }
 
 }  // namespace

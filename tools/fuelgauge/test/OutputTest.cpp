@@ -10,11 +10,14 @@
 #include "output/Screen.hpp"
 #include "output/Timestamp.hpp"
 
-// Stands before the C library's: the system's time is in the year 2040.
+// Stand before the C library's: the system's time is in the year 2040, and so is that since its start.
 extern "C" int timespec_get(timespec* time, int base) noexcept {
   time->tv_sec = 2208988800;
   time->tv_nsec = 125000000;
   return base;
+}
+extern "C" int clock_gettime(clockid_t /*clock*/, timespec* time) noexcept {
+  return ::timespec_get(time, 0);
 }
 
 namespace fuelgauge {
@@ -47,6 +50,7 @@ TEST(Screen, BarsAndSparklinesHoldWhatTheGaugeMaySay) {
 TEST(Timestamp, IsInUtcToTheMillisecond) {
   EXPECT_EQ(Timestamp({1, 5999999}), "1970-01-01T00:00:01.005Z");
   EXPECT_EQ(Timestamp(Now()), "2040-01-01T00:00:00.125Z");
+  EXPECT_EQ(SinceStart().count(), 2208988800.125);
 }
 
 }  // namespace

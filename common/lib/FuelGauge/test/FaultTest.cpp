@@ -79,14 +79,13 @@ void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
 TEST(Fault, AReadErrorEndsAnOverrideFileAndDropsTheWordThatItCuts) {
   FolderGauge at;
   const std::string path = at.folder.Write("override", "maxTemp 550 minTemp -100 ");
-  for (const std::size_t most : {11U, 12U, 23U}) {
+  const std::pair<std::size_t, std::int16_t> cases[] = {{11, 600}, {12, 550}, {23, 550}};
+  for (const auto& [most, maxTemp] : cases) {
     fault = {"read", 1, EIO, most};
     at.gauge.UpdateResetPropertyValues(path);
     fault = {};
-    const auto record =
-        at.gauge.Get<LifetimeData>(FuelGaugeProperty::LifetimeDataResetValue).second;
-    EXPECT_EQ(record.maxTemp, most > 11 ? 550 : 600);
-    EXPECT_EQ(record.minTemp, -200);
+    EXPECT_EQ(Describe(at.gauge.Get(FuelGaugeProperty::LifetimeDataResetValue, 0)),
+              "0 record " + Bytes({.maxTemp = maxTemp}));
   }
 }
 

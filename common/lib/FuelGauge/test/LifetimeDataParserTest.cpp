@@ -19,7 +19,7 @@ static std::string Parse(const std::string& path, const LifetimeData& defaults =
   return std::string("out_of_range ") + exception.what();
 }
 
-TEST(LifetimeDataParser, OverridesWhatTheFileNames) {
+TEST(LifetimeDataParser, OverridesWhatTheFileNamesAndLogsWhatItFindsAndMisses) {
   const std::pair<std::string, std::string> cases[] = {
       {"maxTemp 550\nminTemp -100\nmaxPackVoltage 4400\nminPackVoltage 2800\n"
        "maxChargeCurrent 2500\nmaxDischargeCurrent -2000\n",
@@ -40,7 +40,7 @@ TEST(LifetimeDataParser, OverridesWhatTheFileNames) {
       {"maxPackVoltage 18446744073709551616", "out_of_range stoul"},
   };
   const TemporaryFolder folder;
-  const LogCapture log;
+  LogCapture log;
   for (const auto& [text, outcome] : cases) {
     EXPECT_EQ(Parse(folder.Write("override", text)), outcome) << text;
   }
@@ -52,11 +52,8 @@ TEST(LifetimeDataParser, OverridesWhatTheFileNames) {
   repaired.minTemp = -200;
   EXPECT_EQ(Parse(folder.At("missing"), given), Bytes(repaired));
   EXPECT_EQ(Parse(folder.Write("override", "maxTemp 1"), given), Bytes(repaired));
-}
 
-TEST(LifetimeDataParser, LogsWhatItFindsAndMisses) {
-  const TemporaryFolder folder;
-  LogCapture log;
+  log.Take();
   Parse(folder.Write("override", "maxTemp 70000 maxTemp 1"));
   const std::string parser = " LifetimeDataParser LifetimeDataParser: ";
   std::string records = "8" + parser + "<key, value> In file: maxTemp 70000\n";

@@ -11,10 +11,12 @@ namespace dral {
 template KESP_EXPORT std::unique_ptr<Bq27542FuelGauge>
 IFConstructor<Bq27542FuelGauge, std::string_view>(std::string_view arg);
 
+// Before any of the program's, whose own static initialiser may create a gauge: one that links the library
+// statically has no order else.
 template <>
 template <>
-IF<FuelGaugeIF>::Constructors<std::string_view> IF<FuelGaugeIF>::ifConstructors<std::string_view> =
-    {
+[[gnu::init_priority(101)]] IF<FuelGaugeIF>::Constructors<std::string_view>
+    IF<FuelGaugeIF>::ifConstructors<std::string_view> = {
         {"DefaultIF", &IFConstructor<Bq27542FuelGauge, std::string_view>},
         {"Bq27542FuelGauge", &IFConstructor<Bq27542FuelGauge, std::string_view>},
 };

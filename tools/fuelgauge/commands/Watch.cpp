@@ -118,9 +118,8 @@ ExitStatus Watch(const Gauge& gauge, const WatchOptions& options) {
     summary.Add(moment, readings);
     const bool wasThere = std::exchange(there, readings.AnySucceeded());
     if (there != wasThere) {
-      sink->Notice(there ? "gauge found at " + time
-                         : gauge.Missing(readings) +
-                               (lastSeen.empty() ? "" : "; last read at " + lastSeen));
+      const std::string last = lastSeen.empty() ? "" : "; last read at " + lastSeen;
+      sink->Notice(there ? "gauge found at " + time : gauge.Missing(readings) + last);
     }
     lastSeen = there ? time : lastSeen;
     const ExitStatus status = lastSeen.empty() ? ExitStatus::FileError : ExitStatus::Success;
@@ -129,11 +128,8 @@ ExitStatus Watch(const Gauge& gauge, const WatchOptions& options) {
     if (due) {
       next = std::max(next + interval, steady_clock::now());  // a slow gauge is not hurried after
     }
-    if (!OutputIsOut()) {
-      return status;
-    }
-    if (taken == options.count || !WaitUntil(next, events, *sink)) {
-      if (!ReaderIsGone()) {
+    if (!OutputIsOut() || taken == options.count || !WaitUntil(next, events, *sink)) {
+      if (OutputIsOut() && !ReaderIsGone()) {
         sink->End(summary);
       }
       return status;

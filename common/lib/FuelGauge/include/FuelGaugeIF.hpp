@@ -33,10 +33,9 @@ namespace dral {
 /// file's contents are the reason. A gauge of a user's own may do the same, but need not.
 ///
 /// Thread-safe: any thread may call any operation at any time, and the file operations of one
-/// object never overlap. Two objects, or two processes, do not exclude each other: who reads a
-/// record, changes it and sets it beside other writers takes a lock of their own around the three,
-/// such as flock(2) on the property's file, as the fuelgauge command does. Destroy the object when
-/// no call is running.
+/// object never overlap. Two objects, or two processes, do not exclude each other: to change a record
+/// beside other writers, hold a lock from the read to the write, such as flock(2) on the property's
+/// file, as the fuelgauge command does. Destroy the object when no call is running.
 class KESP_EXPORT FuelGaugeIF {
  public:
   FuelGaugeIF();

@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 
 #include <cerrno>
+#include <string>
+#include <tuple>
 
 using enum dral::FuelGaugeProperty;
 
@@ -12,14 +14,8 @@ namespace {
 
 // Errors that only a kernel's driver answers.
 TEST(Reading, SaysWhyAValueIsMissingAndWhetherThatIsNormal) {
-  struct Case {
-    dral::FuelGaugeProperty property;
-    int error;
-    bool otherDriver;
-    bool normal;
-    std::string reason;
-  };
-  const Case cases[] = {
+  // The property, its error, whether another driver's, whether it may be missing, and why it is.
+  const std::tuple<dral::FuelGaugeProperty, int, bool, bool, std::string> cases[] = {
       {TimeToEmpty, ENODATA, false, true,
        "no estimate: the battery is not discharging, or its current is too small (ENODATA)"},
       {CycleCount, ENODATA, false, false, "the gauge has no value now (ENODATA)"},

@@ -15,7 +15,7 @@ namespace {
 
 // NOLINTBEGIN(cppcoreguidelines-avoid-non-const-global-variables): a handler sees nothing else
 volatile std::sig_atomic_t endStatus = static_cast<int>(ExitStatus::FileError);
-volatile std::sig_atomic_t came = 0;  // a Cause: the greatest since it was taken last
+volatile std::sig_atomic_t noted = 0;  // a Cause: the greatest since it was taken last
 // NOLINTEND(cppcoreguidelines-avoid-non-const-global-variables)
 
 // The handlers call only what a handler may call.
@@ -35,7 +35,7 @@ extern "C" void Note(int signal) {
   if (cause == Signal) {
     ::alarm(1);
   }
-  came = std::max(static_cast<int>(cause), int{came});
+  noted = std::max(static_cast<int>(cause), int{noted});
 }
 
 void Handle(int signal, void (*handler)(int), unsigned flags) {
@@ -49,9 +49,10 @@ void Handle(int signal, void (*handler)(int), unsigned flags) {
   }
 }
 
+// What has come since this was asked last; a signal to end stays.
 Wait::Cause Came() {
-  const auto cause = static_cast<Wait::Cause>(came);
-  came = cause == Wait::Cause::Signal ? came : 0;
+  const auto cause = static_cast<Wait::Cause>(noted);
+  noted = cause == Wait::Cause::Signal ? noted : 0;
   return cause;
 }
 

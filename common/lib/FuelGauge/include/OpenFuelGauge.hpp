@@ -8,8 +8,9 @@
 
 namespace dral {
 
-/// Opens the device's gauge, which the factory builds as "DefaultIF". This names the argument list, too: one
-/// that the compiler deduces, from a literal or a `std::string`, selects an empty registry, and throws.
+/// Opens the device's gauge, which the factory builds as "DefaultIF". Who calls the factory has to name its
+/// argument list: one that the compiler deduces, from a literal or a `std::string`, has an empty registry, and
+/// throws.
 /// @param lifetimeFile the path of a lifetime override file (see `LifetimeDataParser`); empty for none
 /// @throws std::invalid_argument, std::out_of_range when a field's value in that file is no number or
 ///         too large

@@ -11,8 +11,8 @@ namespace dral {
 template KESP_EXPORT std::unique_ptr<Bq27542FuelGauge>
 IFConstructor<Bq27542FuelGauge, std::string_view>(std::string_view arg);
 
-// Before any of the program's, whose own static initialiser may create a gauge: one that links the library
-// statically has no order else.
+// Made before the program's own static initialisers, one of which may create a gauge: in a program that is
+// linked statically, they would have no order.
 template <>
 template <>
 [[gnu::init_priority(101)]] IF<FuelGaugeIF>::Constructors<std::string_view>

@@ -33,13 +33,15 @@ LifetimeDataParser::Setter SetterOf(const LifetimeField& field) {
 
 }  // namespace
 
-const std::unordered_map<std::string, LifetimeDataParser::Setter> LifetimeDataParser::mapping = [] {
-  std::unordered_map<std::string, Setter> setters;
-  for (const LifetimeField& field : LifetimeFields) {
-    setters.emplace(field.name, SetterOf(field));
-  }
-  return setters;
-}();
+// As early as the registry: the gauge that a static initialiser creates may read an override file.
+[[gnu::init_priority(101)]] const std::unordered_map<std::string, LifetimeDataParser::Setter>
+    LifetimeDataParser::mapping = [] {
+      std::unordered_map<std::string, Setter> setters;
+      for (const LifetimeField& field : LifetimeFields) {
+        setters.emplace(field.name, SetterOf(field));
+      }
+      return setters;
+    }();
 
 std::istream& operator>>(std::istream& is, LifetimeDataParser::kv_pair& pair) {
   return is >> pair.key >> pair.value;

@@ -3,6 +3,7 @@
 #include <sys/stat.h>
 
 #include <FuelGaugeNames.hpp>
+
 #include <algorithm>
 #include <chrono>
 #include <future>
@@ -96,6 +97,13 @@ TEST_F(Bq27542FuelGaugeTest, TheDefaultPropertiesAreReadOnlyButForTheRecord) {
   Bq27542FuelGauge("").DumpPropertyMap();
   const std::string dump = log.Take();
   EXPECT_EQ(std::ranges::count(dump, '\n'), 16 * 3);
+  std::istringstream names(
+      "Manufacturer manufacturer Technology technology Status status Present present "
+      "VoltageNow voltage_now CurrentNow current_now StateOfCharge capacity "
+      "ChargeLevel capacity_level Temperature temp NominalAvailableCapacity charge_now "
+      "FullChargeCapacity charge_full CycleCount cycle_count PowerAverage power_avg "
+      "Health health TimeToEmpty time_to_empty_now LifetimeData lifetime_data");
+  std::string name, file, info;
   using Gauge = Bq27542FuelGauge;
   std::stringstream constants;
   constants << Gauge::NamePropertyInfo << Gauge::TechnologyPropertyInfo << Gauge::StatusPropertyInfo
@@ -109,14 +117,11 @@ TEST_F(Bq27542FuelGaugeTest, TheDefaultPropertiesAreReadOnlyButForTheRecord) {
   for (std::uint32_t number = 0; number < 16; ++number) {
     const bool record = number == 15;
     const std::string flag = record ? "1" : "0";
-    const auto& row = FuelGaugePropertyRows.at(number);
-    std::string info;
+    names >> name >> file;
     std::getline(constants, info);
-    const std::string line = "dral::PropertyInfo:    propertyName=" +
-                             std::string(number == 0 ? "Manufacturer" : row.name) +
-                             " , settable=" + flag + " , resettable=" + flag +
-                             " , location=/sys/class/power_supply/bq27542-0/" +
-                             std::string(row.attribute) +
+    const std::string line = "dral::PropertyInfo:    propertyName=" + name + " , settable=" + flag +
+                             " , resettable=" + flag +
+                             " , location=/sys/class/power_supply/bq27542-0/" + file +
                              " , resetValue=" + (record ? "binaryData" : "") + " , binary=" + flag;
     EXPECT_EQ(info, line);
     EXPECT_NE(dump.find("3 Bq27542FuelGauge DumpPropertyMap: Type: " + std::to_string(number) +

@@ -22,9 +22,9 @@ struct LogRecord {
 /// Where this process's records go, and which of them.
 ///
 /// By default each goes to standard error in one write, as journald reads it:
-/// `<level>source:function:line: text`, on one line, a level above 7 as 7: a byte that is not printable
-/// ASCII is shown as `\x0a`. Errors (level 3 and below) are on; the environment variable `KESP_LOG_LEVEL`
-/// names another highest level. Thread-safe.
+/// `<level>source:function:line: text`, on one line. A level above 7 is shown as 7, a byte that is not
+/// printable ASCII as `\x0a`. Errors (level 3 and below) are on; the environment variable
+/// `KESP_LOG_LEVEL` names another highest level. Thread-safe.
 class LogOutput {
  public:
   /// Turns on the levels up to @p highest, whatever the environment says.

@@ -28,10 +28,10 @@ std::string ValueForPeople(const Reading& reading, bool raw) {
     return "'" + reading.ForPeople() + "'";
   }
   const auto number = reading.Number();
-  const Unit unit = reading.property->unit;
-  return !number || unit == Unit::None ? reading.ForPeople()
-         : raw                         ? Raw(*number, unit)
-                                       : Exact(*number, unit);
+  const Unit& unit = reading.property->unit;
+  return !number || unit == units::None ? reading.ForPeople()
+         : raw                          ? Raw(*number, unit)
+                                        : Exact(*number, unit);
 }
 
 // Such as "Status 'Discharging', CurrentNow 412 mA".
@@ -141,7 +141,7 @@ Rule LimitOf(bool least, std::string_view text) {
       least ? "minimum" : "maximum", Severity::Error,
       Concat(property.name, " must be at ", least ? "least " : "most ", Raw(*limit, property.unit)),
       [id = property.id, least, limit = *limit](const Readings& readings) {
-        const auto number = readings.Number(id);
+        const auto number = readings[id].Number();
         const bool kept = number && (least ? *number >= limit : *number <= limit);
         return kept ? Evidence{} : Evidence{{&readings[id]}, {}, true};
       }};

@@ -18,8 +18,8 @@ std::string Remark(const Reading& reading) {
     return reading.Reason();
   }
   const auto number = reading.Number();
-  const Unit unit = reading.property->unit;
-  return number && unit != Unit::None && unit != Unit::Percent ? Raw(*number, unit) : "";
+  const Unit& unit = reading.property->unit;
+  return number && unit != units::None && unit != units::Percent ? Raw(*number, unit) : "";
 }
 
 ExitStatus List(const Gauge& gauge, bool json) {

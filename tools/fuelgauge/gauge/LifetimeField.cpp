@@ -10,17 +10,17 @@ using Record = dral::LifetimeData;
 namespace {
 
 constexpr LifetimeQuantity PackTemperature = {
-    Unit::TenthDegreeCelsius,
+    units::TenthDegreeCelsius,
     Record::LifetimeMinTemp,
     Record::LifetimeMaxTemp,
     {"lifetime_temperature_celsius", "Extremes of the pack's temperature.", 1}};
 constexpr LifetimeQuantity PackVoltage = {
-    Unit::Millivolt,
+    units::Millivolt,
     0,
     32767,
     {"lifetime_pack_voltage_volts", "Extremes of the pack's voltage.", 3}};
 constexpr LifetimeQuantity PackCurrent = {
-    Unit::Milliampere,
+    units::Milliampere,
     Record::LifetimeMinCurrent,
     Record::LifetimeMaxCurrent,
     {"lifetime_current_amperes", "Extremes of the pack's current.", 3}};

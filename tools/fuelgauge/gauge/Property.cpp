@@ -16,11 +16,9 @@ namespace {
 constexpr bool MayLack = true;
 constexpr bool Always = false;
 
-constexpr Property Row(dral::FuelGaugeProperty id, Type type, Unit unit, bool optional,
-                       Metric metric = {}, std::span<const std::string_view> words = {},
-                       std::size_t series = std::string_view::npos) {
-  return {
-      id, type, unit, optional, metric, words, std::min(series, words.size()), dral::NameOf(id)};
+// A call is laid out more densely than a list.
+constexpr Property Row(const auto&... fields) {
+  return {fields...};
 }
 
 // The words of the kernel's power_supply class, as of Linux 7.3
@@ -44,34 +42,36 @@ constexpr auto HealthWords = std::to_array<std::string_view>(
 // Charges are in coulombs: the convention asks for base units, and finds fault with hours in a name.
 // Cycles only grow, until the gauge is replaced: a counter, whose reset Prometheus understands.
 constexpr std::array<Property, dral::FuelGaugePropertyNames.size()> Properties = {
-    Row(Name, String, Unit::None, MayLack),
-    Row(Technology, String, Unit::None, Always, {}, TechnologyWords),
-    Row(Status, String, Unit::None, Always, {"status", "Charging status: 1 for the state that is."},
-        StatusWords),
-    Row(Present, Bool, Unit::None, Always, {"present", "Whether a battery is present."}),
-    Row(VoltageNow, Int, Unit::Microvolt, Always, {"voltage_volts", "Battery voltage.", 6}),
-    Row(CurrentNow, Int, Unit::Microampere, Always,
-        {"current_amperes", "Battery current with the kernel's sign: negative while discharging.",
-         6}),
-    Row(StateOfCharge, Int, Unit::Percent, Always,
-        {"charge_ratio", "Remaining charge, 0 to 1.", 2}),
-    Row(ChargeLevel, String, Unit::None, MayLack,
-        {"charge_level", "Charge level: 1 for the level that is."}, LevelWords),
-    Row(Temperature, Int, Unit::TenthDegreeCelsius, Always,
-        {"temperature_celsius", "Battery temperature.", 1}),
-    Row(NominalAvailableCapacity, Int, Unit::MicroampereHour, MayLack,
-        {"charge_available_coulombs",
-         "Charge now available, not compensated for load and temperature.", 4, 36}),
-    Row(FullChargeCapacity, Int, Unit::MicroampereHour, MayLack,
-        {"charge_full_coulombs", "Charge when full, compensated for load and temperature.", 4, 36}),
-    Row(CycleCount, Int, Unit::None, MayLack, {"cycles_total", "Charge cycles so far."}),
-    Row(PowerAverage, Int, Unit::Microwatt, MayLack, {"power_average_watts", "Average power.", 6}),
-    Row(Health, String, Unit::None, MayLack, {"health", "Battery health: 1 for the state that is."},
-        HealthWords, HealthSeries),
-    Row(TimeToEmpty, Int, Unit::Second, MayLack,
-        {"time_to_empty_seconds", "Time until empty; none unless discharging."}),
-    Row(LifetimeData, Lifetime, Unit::None, MayLack),
-    Row(LifetimeDataResetValue, Lifetime, Unit::None, Always),
+    Row(Name, String, units::None, MayLack),
+    Row(Technology, String, units::None, Always, Metric{}, TechnologyWords),
+    Row(Status, String, units::None, Always,
+        Metric{"status", "Charging status: 1 for the state that is."}, StatusWords),
+    Row(Present, Bool, units::None, Always, Metric{"present", "Whether a battery is present."}),
+    Row(VoltageNow, Int, units::Microvolt, Always, Metric{"voltage_volts", "Battery voltage.", 6}),
+    Row(CurrentNow, Int, units::Microampere, Always,
+        Metric{"current_amperes",
+               "Battery current with the kernel's sign: negative while discharging.", 6}),
+    Row(StateOfCharge, Int, units::Percent, Always,
+        Metric{"charge_ratio", "Remaining charge, 0 to 1.", 2}),
+    Row(ChargeLevel, String, units::None, MayLack,
+        Metric{"charge_level", "Charge level: 1 for the level that is."}, LevelWords),
+    Row(Temperature, Int, units::TenthDegreeCelsius, Always,
+        Metric{"temperature_celsius", "Battery temperature.", 1}),
+    Row(NominalAvailableCapacity, Int, units::MicroampereHour, MayLack,
+        Metric{"charge_available_coulombs",
+               "Charge now available, not compensated for load and temperature.", 4, 36}),
+    Row(FullChargeCapacity, Int, units::MicroampereHour, MayLack,
+        Metric{"charge_full_coulombs", "Charge when full, compensated for load and temperature.", 4,
+               36}),
+    Row(CycleCount, Int, units::None, MayLack, Metric{"cycles_total", "Charge cycles so far."}),
+    Row(PowerAverage, Int, units::Microwatt, MayLack,
+        Metric{"power_average_watts", "Average power.", 6}),
+    Row(Health, String, units::None, MayLack,
+        Metric{"health", "Battery health: 1 for the state that is."}, HealthWords, HealthSeries),
+    Row(TimeToEmpty, Int, units::Second, MayLack,
+        Metric{"time_to_empty_seconds", "Time until empty; none unless discharging."}),
+    Row(LifetimeData, Lifetime, units::None, MayLack),
+    Row(LifetimeDataResetValue, Lifetime, units::None, Always),
 };
 
 // Each row is in the place of its property's number, and none is forgotten.

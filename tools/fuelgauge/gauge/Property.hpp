@@ -35,10 +35,10 @@ struct Property {
   Type type;  ///< its natural one
   Unit unit;
   bool optional;  ///< a driver of a gauge in order may not offer its file
-  Metric metric;
-  std::span<const std::string_view> words;  ///< the kernel's, for a text that is one of them
-  std::size_t series;                       ///< so many of them always have a series
-  std::string_view name;
+  Metric metric = {};
+  std::span<const std::string_view> words = {};  ///< the kernel's, for a text that is one of them
+  std::size_t series = words.size();             ///< so many of them always have a series
+  std::string_view name = dral::NameOf(id);
 };
 
 /// In the order of their numbers; the reset value alone has no file.

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <optional>
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -21,14 +21,13 @@ class Readings {
 
   const std::string& SupplyName() const { return supply; }
 
-  const Reading& operator[](dral::FuelGaugeProperty id) const;
-
-  // What `Reading` has of the same names.
-  std::optional<int> Number(dral::FuelGaugeProperty id) const { return (*this)[id].Number(); }
-  std::optional<std::string_view> Text(dral::FuelGaugeProperty id) const {
-    return (*this)[id].Text();
+  const Reading& operator[](dral::FuelGaugeProperty id) const {
+    return all.at(static_cast<std::size_t>(id));
   }
-  const dral::LifetimeData* Record() const;
+
+  const dral::LifetimeData* Record() const {
+    return (*this)[dral::FuelGaugeProperty::LifetimeData].Record();
+  }
 
   /// @return whether a driver other than this gauge's gave them
   bool AreOfOtherDriver() const { return all.front().otherDriver; }

@@ -19,11 +19,11 @@ using Find = std::function<Evidence(const Readings&)>;
 
 // Of what was not read a rule holds nothing against the gauge: it takes a number that breaks none.
 int NumberOr(const Readings& readings, Id id, int otherwise) {
-  return readings.Number(id).value_or(otherwise);
+  return readings[id].Number().value_or(otherwise);
 }
 
 bool Says(const Readings& readings, Id id, std::initializer_list<std::string_view> words) {
-  const auto text = readings.Text(id);
+  const auto text = readings[id].Text();
   return text && std::find(words.begin(), words.end(), *text) != words.end();
 }
 
@@ -39,11 +39,11 @@ struct Register {
   int ones;
 };
 constexpr auto Registers = std::to_array<Register>({
-    {Unit::None, {}, 65535},
-    {Unit::Percent, 0, 65535},
-    {Unit::Microvolt, 0, 65535000},
-    {Unit::MicroampereHour, 0, 65535000},
-    {Unit::TenthDegreeCelsius, -2731, 65535 - 2731},
+    {units::None, {}, 65535},
+    {units::Percent, 0, 65535},
+    {units::Microvolt, 0, 65535000},
+    {units::MicroampereHour, 0, 65535000},
+    {units::TenthDegreeCelsius, -2731, 65535 - 2731},
 });
 
 template <auto Extreme>
@@ -78,7 +78,7 @@ Find Each(bool (*broken)(const Reading&)) {
 // Shows a number that was read and is not from @p least to @p most.
 Find Outside(Id id, int least, int most) {
   return [id, least, most](const Readings& readings) {
-    const auto number = readings.Number(id);
+    const auto number = readings[id].Number();
     return number && (*number < least || *number > most) ? Evidence{{&readings[id]}, {}}
                                                          : Evidence{};
   };
@@ -138,7 +138,7 @@ bool ChargesDisagree(const Readings& readings) {
 bool BatteryUnwell(const Readings& readings) {
   const bool low = Says(readings, ChargeLevel, {"Low", "Critical"}) ||
                    NumberOr(readings, StateOfCharge, 100) <= 20;
-  return readings.Text(Health) &&
+  return readings[Health].Text() &&
          !Says(readings, Health,
                {"Good", "Unknown", "Calibration required", "Cold", "Cool", "Warm", "Hot"}) &&
          !(low && Says(readings, Health, {"Dead"}));
@@ -180,7 +180,7 @@ const std::vector<Rule> Rules = {
      {"charges-disagree", "full-early", "level"}},
     {"charge-full", Error, "a battery that has a charge in % has a charge when full",
      When<FullChargeCapacity, StateOfCharge>([](const Readings& readings) {
-       return NumberOr(readings, FullChargeCapacity, 1) <= 0 && readings.Number(StateOfCharge);
+       return NumberOr(readings, FullChargeCapacity, 1) <= 0 && readings[StateOfCharge].Number();
      })},
     {"temperature-range", Error, "the gauge measures from -60 to 140 °C: its sensor is broken",
      Outside(Temperature, dral::LifetimeData::LifetimeMinTemp,

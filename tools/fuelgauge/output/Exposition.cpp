@@ -86,7 +86,7 @@ void AddInfo(Families& families, const Readings& readings) {
   Labels labels;
   for (const auto& [label, id] :
        {std::pair("manufacturer", Name), std::pair("technology", Technology)}) {
-    if (const auto word = readings.Text(id)) {
+    if (const auto word = readings[id].Text()) {
       labels.emplace_back(label, *word);
     }
   }

@@ -57,7 +57,7 @@ std::pair<std::int64_t, std::int64_t> RangeOf(const Course& numbers) {
 }
 
 // The newest, at most so many, behind their limits.
-std::string SparklineWithLimits(Course numbers, Unit unit, std::size_t most) {
+std::string SparklineWithLimits(Course numbers, const Unit& unit, std::size_t most) {
   while (numbers.size() > most) {
     numbers.pop_front();
   }
@@ -114,7 +114,7 @@ std::vector<Screen::Line> Screen::Table(const std::string& time, const Readings&
 
 void Screen::Sample(const std::string& time, const Readings& readings) {
   for (auto& [id, course] : courses) {
-    course.push_back(readings.Number(id));
+    course.push_back(readings[id].Number());
     if (course.size() > CourseLength) {
       course.pop_front();
     }

@@ -27,7 +27,7 @@ std::string Count(std::int64_t number, std::string_view noun) {
 
 void Summary::Add(Seconds time, const Readings& readings) {
   for (const auto id : {VoltageNow, CurrentNow, StateOfCharge, Temperature}) {
-    if (const auto number = readings.Number(id)) {
+    if (const auto number = readings[id].Number()) {
       Range& range = ranges[readings[id].property];
       range.least = std::min(range.least, *number);
       range.greatest = std::max(range.greatest, *number);
@@ -35,7 +35,7 @@ void Summary::Add(Seconds time, const Readings& readings) {
       ++range.count;
     }
   }
-  AddCurrent(time, readings.Number(CurrentNow));
+  AddCurrent(time, readings[CurrentNow].Number());
 }
 
 void Summary::AddCurrent(Seconds time, std::optional<int> current) {
@@ -63,7 +63,7 @@ std::vector<std::string> Summary::Lines() const {
   std::vector<std::string> lines = {
       Concat(Count(samples, "sample"), " in ", InWords(last - first))};
   for (const auto& [property, range] : ranges) {
-    const Unit unit = property->unit;
+    const Unit& unit = property->unit;
     const double mean = static_cast<double>(range.sum) / static_cast<double>(range.count);
     lines.push_back(Concat(property->name, ": ", ForPeople(range.least, unit), " to ",
                            ForPeople(range.greatest, unit), ", mean ",
@@ -72,7 +72,7 @@ std::vector<std::string> Summary::Lines() const {
   if (measured) {
     const std::int64_t tenths = std::llround(charge / 360000);
     lines.push_back(
-        Concat("charge moved: ", ForPeople(tenths, Unit::TenthMilliampereHour),
+        Concat("charge moved: ", ForPeople(tenths, units::TenthMilliampereHour),
                gaps == 0 ? ""
                          : Concat(", not counting ", Count(gaps, "gap"), " of ", InWords(missed),
                                   gaps > 1 ? " in all" : "", " in which the current was unknown")));

@@ -1,15 +1,44 @@
 // SPDX-License-Identifier: MIT
+// What a property's file gives to a read, and takes from a write.
 #include <gtest/gtest.h>
 #include <unistd.h>
+
+#include <functional>
 
 #include "Fault.hpp"
 #include "support/FolderGauge.hpp"
 
 using namespace dral;
 
-TEST(Readable, AnswersAsTheHintAsks) {
-  FolderGauge at;
-  const std::string path = at.folder.At("lifetime_data");
+class File : public ::testing::Test, protected FolderGauge {
+ protected:
+  struct Case {
+    std::string contents;
+    PropertyValue value;  // the hint, or what is written
+    std::string outcome;
+    std::string records{};
+    Fault fault{};
+  };
+
+  void Expect(const std::vector<Case>& cases,
+              const std::function<std::string(const PropertyValue&)>& outcome) {
+    ::close(STDIN_FILENO);  // so that the file may get descriptor 0
+    for (const Case& each : cases) {
+      folder.Write("lifetime_data", each.contents);
+      const auto files = OpenFiles();
+      fault = each.fault;
+      EXPECT_EQ(outcome(each.value), each.outcome) << each.contents << each.fault.call;
+      fault = {};
+      EXPECT_EQ(log.Take(), each.records) << each.contents << each.fault.call;
+      EXPECT_EQ(OpenFiles(), files);
+    }
+  }
+
+  static constexpr auto Property = FuelGaugeProperty::LifetimeData;
+  const std::string path = folder.At("lifetime_data");
+};
+
+TEST_F(File, IsReadAsTheHintAsks) {
   const PropertyValue record = LifetimeData{1, 2, 3, 4, 5, 6};
   const std::string blank = Bytes(LifetimeData{});
   const std::string page = "12345 " + std::string(5000, '.');  // more than a block
@@ -24,14 +53,7 @@ TEST(Readable, AnswersAsTheHintAsks) {
       "3 Readable GetBinaryFileContents: Readable::GetBinaryFileContents " + notOpened;
   const std::string tooMuch = "3 Readable operator(): Value out of range for unsigned int: ";
   const std::string threw = "3 Bq27542FuelGauge DoGet: Failed to get property: 15ex: ";
-  struct Case {
-    std::string contents;
-    PropertyValue hint;
-    std::string answer;
-    std::string records{};
-    Fault fault{};
-  };
-  const Case cases[] = {
+  const std::vector<Case> cases = {
       {"\na\r\n b\t\n\n", "hint", "0 string a\r b\t"},
       {"", "hint", "4 string ", noText},
       {page + "\n" + page, "hint", "0 string " + page + page},
@@ -63,15 +85,39 @@ TEST(Readable, AnswersAsTheHintAsks) {
       {page, record, "4 EIO record 12345 " + blank.substr(6), noRecord, {"read", 1, EIO, 6}},
       {page, "hint", "0 string " + page, "", {"close", 0, EIO}},
   };
-  ::close(STDIN_FILENO);  // so that the file may get descriptor 0
-  for (const Case& each : cases) {
-    at.folder.Write("lifetime_data", each.contents);
-    const auto files = OpenFiles();
-    fault = each.fault;
-    const auto answer = at.gauge.Get(FuelGaugeProperty::LifetimeData, each.hint);
+  Expect(cases, [&](const PropertyValue& hint) { return Describe(gauge.Get(Property, hint)); });
+}
+
+TEST_F(File, HoldsJustTheValueInTheFormOfItsType) {
+  const std::string before = "older, and longer than what is written";
+  const LifetimeData given{1, -2, 3, 4, 5, -6};
+  const std::string notFound =
+      "3 Writable WriteData: Writable::Set failed - file not found: " + path + "\n";
+  const std::string notOpened =
+      "3 Writable operator(): Writable::Set failed to open file: " + path +
+      "error: " + std::strerror(ENOENT) + "\n";
+  const std::vector<Case> cases = {
+      {before, -2147483647 - 1, "0 -2147483648"},
+      {before, 4294967295U, "0 4294967295"},
+      {before, true, "0 1"},
+      {before, false, "0 0"},
+      {before, "any\ntext ", "0 any\ntext "},
+      {before, "", "0 "},
+      {before, std::string(5000, 'x'), "0 " + std::string(5000, 'x')},
+      {before, given, "0 " + Bytes(given)},
+      {before, "text", "3 EACCES " + before, notFound, {"stat", 0, EACCES}},
+      {before, "text", "3 ENOENT ", notOpened, {"found", 0, ENOENT}},
+      {before, "text", "0 text", "", {"write", 1, EINTR, 3}},
+      {before, "text", "0 EIO tex", "", {"write", 1, EIO, 3}},
+      {before, given, "0 ENOSPC ", "", {"write", 0, ENOSPC}},
+      {before, "text", "0 EDQUOT text", "", {"close", 0, EDQUOT}},
+  };
+  // The status, and what the file holds then.
+  Expect(cases, [&](const PropertyValue& value) {
+    const std::string status = Describe(gauge.Set(Property, value));
     fault = {};
-    EXPECT_EQ(Describe(answer), each.answer) << each.contents << each.fault.call;
-    EXPECT_EQ(at.log.Take(), each.records) << each.contents << each.fault.call;
-    EXPECT_EQ(OpenFiles(), files);
-  }
+    return status + " " + folder.Read("lifetime_data");
+  });
+  EXPECT_EQ(Describe(gauge.Reset(Property)), "0");
+  EXPECT_EQ(folder.Read("lifetime_data"), Bytes(LifetimeData{}));
 }

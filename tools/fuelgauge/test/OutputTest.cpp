@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "output/LineSink.hpp"
-#include "output/Table.hpp"
-#include "output/Text.hpp"
-
 #include <gtest/gtest.h>
 
 #include <ctime>
 
+#include "output/LineSink.hpp"
 #include "output/Screen.hpp"
+#include "output/Table.hpp"
+#include "output/Text.hpp"
 #include "output/Timestamp.hpp"
 
 // Stand before the C library's: the system's time is in the year 2040, and so is that since its start.
@@ -20,8 +19,7 @@ extern "C" int clock_gettime(clockid_t /*clock*/, timespec* time) noexcept {
   return ::timespec_get(time, 0);
 }
 
-namespace fuelgauge {
-namespace {
+using namespace fuelgauge;
 
 TEST(Output, PaddingAndCutsCountColumnsNotBytes) {
   EXPECT_EQ(PadTo(4, "µV") + PadTo(1, "°C"), "µV  °C");
@@ -31,9 +29,7 @@ TEST(Output, PaddingAndCutsCountColumnsNotBytes) {
 
 TEST(Output, TextCannotSteerATerminal) {
   EXPECT_EQ(TerminalSafe("a\x1b[2J\n\x7f"), "a\\u001b[2J\\u000a\\u007f");
-  EXPECT_EQ(TerminalSafe("\xC2\x9B"
-                         "2J\xC2\x80 \xC2\xA0"),
-            "\\u009b2J\\u0080 \xC2\xA0");
+  EXPECT_EQ(TerminalSafe("\u009b2J\u0080 \u00a0"), "\\u009b2J\\u0080 \u00a0");
   EXPECT_EQ(TerminalSafe("\u061C \u200E \u200F \u202E \u2069 \u206A電"),
             "\\u061c \\u200e \\u200f \\u202e \\u2069 \u206A電");
   EXPECT_EQ(TerminalSafe("\x9B\xC3("), "\uFFFD\uFFFD(");
@@ -52,6 +48,3 @@ TEST(Timestamp, IsInUtcToTheMillisecond) {
   EXPECT_EQ(Timestamp(Now()), "2040-01-01T00:00:00.125Z");
   EXPECT_EQ(SinceStart().count(), 2208988800.125);
 }
-
-}  // namespace
-}  // namespace fuelgauge

@@ -9,8 +9,7 @@
 
 using enum dral::FuelGaugeProperty;
 
-namespace fuelgauge {
-namespace {
+using namespace fuelgauge;
 
 // Errors that only a kernel's driver answers.
 TEST(Reading, SaysWhyAValueIsMissingAndWhetherThatIsNormal) {
@@ -33,6 +32,3 @@ TEST(Reading, SaysWhyAValueIsMissingAndWhetherThatIsNormal) {
     EXPECT_EQ(reading.Reason(), reason);
   }
 }
-
-}  // namespace
-}  // namespace fuelgauge

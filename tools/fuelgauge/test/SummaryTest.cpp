@@ -8,17 +8,15 @@
 #include <utility>
 #include <vector>
 
-namespace fuelgauge {
-namespace {
+using namespace fuelgauge;
 
-Readings ReadingsOf(std::optional<int> current) {
+static Readings ReadingsOf(std::optional<int> current) {
   std::vector<Reading> readings;
   for (const Property& property : Properties) {
     readings.push_back({&property, dral::FuelGaugeStatus::FileError, Hint(property.type)});
-    if (property.id == dral::FuelGaugeProperty::VoltageNow) {
-      readings.back() = {&property, dral::FuelGaugeStatus::Success, 3700000};
-    } else if (current && property.id == dral::FuelGaugeProperty::CurrentNow) {
-      readings.back() = {&property, dral::FuelGaugeStatus::Success, *current};
+    const bool voltage = property.id == dral::FuelGaugeProperty::VoltageNow;
+    if (voltage || (current && property.id == dral::FuelGaugeProperty::CurrentNow)) {
+      readings.back() = {&property, dral::FuelGaugeStatus::Success, voltage ? 3700000 : *current};
     }
   }
   return Readings("", std::move(readings));
@@ -43,6 +41,3 @@ TEST(Summary, GapsMoveNoCharge) {
     EXPECT_EQ(summary.Lines().back(), last);
   }
 }
-
-}  // namespace
-}  // namespace fuelgauge

@@ -21,8 +21,7 @@ TEST(Path, ExistsAsStatSeesIt) {
   ASSERT_NE(file, nullptr);
   const int descriptor = ::fileno(file);
   const std::string path = "/proc/self/fd/" + std::to_string(descriptor);
-  const timespec year2040{.tv_sec = 2208988800, .tv_nsec = 0};
-  const timespec times[] = {year2040, year2040};
+  const timespec times[] = {{.tv_sec = 2208988800}, {.tv_sec = 2208988800}};
   EXPECT_EQ(::futimens(descriptor, times), 0);
   EXPECT_TRUE(Exists(path)) << "of the year 2040";
   EXPECT_EQ(::ftruncate(descriptor, off_t{1} << 32), 0);  // which also sets the time to now

@@ -6,7 +6,6 @@
 #include <charconv>
 #include <set>
 
-#include "Printed.hpp"
 #include "Target.hpp"
 #include "commands/Commands.hpp"
 #include "output/LineSink.hpp"

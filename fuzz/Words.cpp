@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The words of a command line, a line each, behind a command that writes nothing: it ends with a status of its own, and
 // what it says of them steers no terminal. And any bytes as a message of the kernel's about a device.
-#include "Printed.hpp"
 #include "Target.hpp"
 #include "commands/CommandLine.hpp"
 #include "watching/Events.hpp"

@@ -1,14 +1,15 @@
 // SPDX-License-Identifier: MIT
+#include "gauge/Errors.hpp"
 #include "gauge/Reading.hpp"
 
 #include <gtest/gtest.h>
 
 #include <cerrno>
+#include <cstring>
 #include <string>
 #include <tuple>
 
 using enum dral::FuelGaugeProperty;
-
 using namespace fuelgauge;
 
 // Errors that only a kernel's driver answers.
@@ -25,10 +26,12 @@ TEST(Reading, SaysWhyAValueIsMissingAndWhetherThatIsNormal) {
       {Status, ETIMEDOUT, false, false, "the gauge does not answer on its bus (ETIMEDOUT)"},
   };
   for (const auto& [id, error, otherDriver, normal, reason] : cases) {
-    Reading reading{&Properties.at(static_cast<std::size_t>(id)), dral::FuelGaugeStatus::NoData, 0};
-    reading.error = error;
-    reading.otherDriver = otherDriver;
+    const Property* property = &Properties.at(static_cast<std::size_t>(id));
+    const Reading reading{property, dral::FuelGaugeStatus::NoData, 0, error, "", "", otherDriver};
     EXPECT_EQ(reading.MayBeMissing(), normal) << reason;
     EXPECT_EQ(reading.Reason(), reason);
+  }
+  for (const int error : {ENXIO, EREMOTEIO, EBUSY, EAGAIN, EINVAL, ENOSPC}) {
+    EXPECT_EQ(ErrorName(error), ::strerrorname_np(error));
   }
 }

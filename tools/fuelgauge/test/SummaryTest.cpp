@@ -26,9 +26,9 @@ TEST(Summary, GapsMoveNoCharge) {
   using Samples = std::vector<std::pair<int, std::optional<int>>>;  // seconds, µA
   const std::string unknown = " in which the current was unknown";
   const std::pair<Samples, std::string> cases[] = {
-      {{{100, -360000}, {110, -720000}, {120, -720000}}, "charge moved: -3.5 mAh"},
-      {{{0, 3600000}, {10, {}}, {20, {}}, {59, 3600000}, {69, 3600000}},
-       "charge moved: 10.0 mAh, not counting 1 gap of 59 s" + unknown},
+      {{{100, -360000}, {110, -720000}, {150, -720000}}, "charge moved: -9.5 mAh"},
+      {{{0, 3600000}, {10, {}}, {20, {}}, {59, 3600000}, {69, 3600000}, {110, 3600000}},
+       "charge moved: 10.0 mAh, not counting 2 gaps of 1 min 40 s in all" + unknown},
       {{{0, 3600000}, {10, 3600000}, {3720, 3600000}, {3730, 3600000}, {3740, {}}},
        "charge moved: 20.0 mAh, not counting 2 gaps of 1 h 2 min 0 s in all" + unknown},
       {{{0, {}}, {10, {}}}, "VoltageNow: 3.700 V to 3.700 V, mean 3.700 V"},  // and no charge

@@ -2,7 +2,6 @@
 #include <dlfcn.h>
 #include <gtest/gtest.h>
 #include <Bq27542FuelGauge.hpp>
-#include <FuelGaugeIF.hpp>
 #include <LifetimeDataParser.hpp>
 #include <stdexcept>
 

@@ -25,8 +25,6 @@ TEST(PropertyInfo, ReadsSixWordsAndDumpsOneLine) {
     EXPECT_EQ(out.str(), "dral::PropertyInfo:    propertyName=" + dump);
   }
   PropertyInfo number{.resetValue = 5};
-  std::istringstream words("A 1 1 /x text 1");
-  EXPECT_THROW(words >> number, std::bad_variant_access);
-  std::ostringstream out;
-  EXPECT_THROW(out << number, std::bad_variant_access);
+  EXPECT_THROW(std::istringstream("A 1 1 /x text 1") >> number, std::bad_variant_access);
+  EXPECT_THROW(std::ostringstream() << number, std::bad_variant_access);
 }

@@ -15,14 +15,11 @@ using namespace dral;
 constexpr int Threads = 4;
 constexpr auto Property = FuelGaugeProperty::LifetimeData;
 
-static int Rounds() {
-  const char* const operations = std::getenv("KESP_SOAK_OPERATIONS");
-  return (operations != nullptr ? std::atoi(operations) : 20000) / Threads / 4;
-}
-
 // Each thread writes records of its own number throughout, resets, and reads, all on one gauge; and it
 // reads a text through a gauge of its own.
 TEST(Threads, OperationsOnOneObjectNeverOverlap) {
+  const char* const operations = std::getenv("KESP_SOAK_OPERATIONS");
+  const int rounds = (operations != nullptr ? std::atoi(operations) : 20000) / Threads / 4;
   FolderGauge shared;
   shared.folder.Write("lifetime_data", Bytes({}));
   shared.folder.Write("status", "Full\n");
@@ -35,7 +32,7 @@ TEST(Threads, OperationsOnOneObjectNeverOverlap) {
       Bq27542FuelGauge own("", Bq27542FuelGauge::PropertyMapAt(shared.folder.path));
       LifetimeData record{.maxTemp = number};
       record.reserved.fill(static_cast<std::uint8_t>(number));
-      for (int round = 0; round < Rounds(); ++round) {
+      for (int round = 0; round < rounds; ++round) {
         wrong += shared.gauge.Set(Property, record) == FuelGaugeStatus::Success ? 0 : 1;
         wrong += shared.gauge.Reset(Property) == FuelGaugeStatus::Success ? 0 : 1;
         const auto [status, read] = shared.gauge.Get<LifetimeData>(Property);

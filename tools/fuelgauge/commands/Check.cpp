@@ -24,7 +24,7 @@ struct CheckOptions {
 // A text in quotes, since a blank may be what is wrong with it; a number not rounded, since its last
 // digit may be.
 std::string ValueForPeople(const Reading& reading, bool raw) {
-  if (reading.Text()) {
+  if (reading.Text() != nullptr) {
     return "'" + reading.ForPeople() + "'";
   }
   const auto number = reading.Number();

@@ -31,20 +31,11 @@ std::string Shortened(std::string_view text) {
 }  // namespace
 
 std::optional<int> Reading::Number() const {
-  if (const bool* flag = std::get_if<bool>(&value); flag != nullptr && Succeeded()) {
+  if (const auto* flag = As<bool>()) {
     return *flag ? 1 : 0;
   }
-  const int* number = std::get_if<int>(&value);
-  return number != nullptr && Succeeded() ? std::optional(*number) : std::nullopt;
-}
-
-std::optional<std::string_view> Reading::Text() const {
-  const std::string* text = std::get_if<std::string>(&value);
-  return Succeeded() && text != nullptr ? std::optional<std::string_view>(*text) : std::nullopt;
-}
-
-const dral::LifetimeData* Reading::Record() const {
-  return Succeeded() ? std::get_if<dral::LifetimeData>(&value) : nullptr;
+  const auto* number = As<int>();
+  return number != nullptr ? std::optional(*number) : std::nullopt;
 }
 
 std::string Reading::Bare() const {

@@ -5,7 +5,7 @@
 #include <PropertyValue.hpp>
 #include <optional>
 #include <string>
-#include <string_view>
+#include <variant>
 
 #include "gauge/Property.hpp"
 
@@ -26,11 +26,9 @@ struct Reading {
   /// @return the number, a flag as 0 or 1; none when it was not read or is no number
   std::optional<int> Number() const;
 
-  /// @return the text, as long as the reading lives; none when it was not read or is no text
-  std::optional<std::string_view> Text() const;
-
-  /// @return the record; null when it was not read or is no record
-  const dral::LifetimeData* Record() const;
+  /// @return the text, or the record; null when it was not read or is none
+  const std::string* Text() const { return As<std::string>(); }
+  const dral::LifetimeData* Record() const { return As<dral::LifetimeData>(); }
 
   /// @return the value as programs take it, such as "3786000", "true" or "Full"; nothing when it was not
   ///         read, or for the record
@@ -46,6 +44,12 @@ struct Reading {
   /// @return whether a gauge in order may fail to give this: a file that its driver may lack, an
   ///         estimate of the time to empty, or what another driver has not
   bool MayBeMissing() const;
+
+ private:
+  template <typename T>
+  const T* As() const {
+    return Succeeded() ? std::get_if<T>(&value) : nullptr;
+  }
 };
 
 }  // namespace fuelgauge

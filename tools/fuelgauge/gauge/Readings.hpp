@@ -25,10 +25,6 @@ class Readings {
     return all.at(static_cast<std::size_t>(id));
   }
 
-  const dral::LifetimeData* Record() const {
-    return (*this)[dral::FuelGaugeProperty::LifetimeData].Record();
-  }
-
   /// @return whether a driver other than this gauge's gave them
   bool AreOfOtherDriver() const { return all.front().otherDriver; }
 

@@ -23,8 +23,8 @@ int NumberOr(const Readings& readings, Id id, int otherwise) {
 }
 
 bool Says(const Readings& readings, Id id, std::initializer_list<std::string_view> words) {
-  const auto text = readings[id].Text();
-  return text && std::find(words.begin(), words.end(), *text) != words.end();
+  const auto* text = readings[id].Text();
+  return text != nullptr && std::find(words.begin(), words.end(), *text) != words.end();
 }
 
 // Of the battery, in watts.
@@ -88,7 +88,7 @@ Find Outside(Id id, int least, int most) {
 Find Fields(bool (*broken)(const dral::LifetimeData&, const LifetimeField&)) {
   return [broken](const Readings& readings) {
     Evidence evidence;
-    const auto* record = readings.Record();
+    const auto* record = readings[LifetimeData].Record();
     for (const LifetimeField& field : LifetimeFields) {
       if (record != nullptr && broken(*record, field)) {
         evidence.fields.emplace_back(&field, field.Value(*record));
@@ -138,7 +138,7 @@ bool ChargesDisagree(const Readings& readings) {
 bool BatteryUnwell(const Readings& readings) {
   const bool low = Says(readings, ChargeLevel, {"Low", "Critical"}) ||
                    NumberOr(readings, StateOfCharge, 100) <= 20;
-  return readings[Health].Text() &&
+  return readings[Health].Text() != nullptr &&
          !Says(readings, Health,
                {"Good", "Unknown", "Calibration required", "Cold", "Cool", "Warm", "Hot"}) &&
          !(low && Says(readings, Health, {"Dead"}));
@@ -196,9 +196,10 @@ const std::vector<Rule> Rules = {
      Warning,
      "this program does not know the word",
      Each([](const Reading& reading) {
-       const auto word = reading.Text();
+       const auto* word = reading.Text();
        const auto known = reading.property->words;
-       return word && !known.empty() && std::find(known.begin(), known.end(), *word) == known.end();
+       return word != nullptr && !known.empty() &&
+              std::find(known.begin(), known.end(), *word) == known.end();
      }),
      {"health"}},
     {"current-sign", Warning,

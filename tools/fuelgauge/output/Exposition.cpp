@@ -76,7 +76,7 @@ void AddValues(Families& families, const Readings& readings, bool states) {
     }
     if (const auto number = reading.Number()) {
       families.Add(property.metric, std::int64_t{*number} * property.metric.factor);
-    } else if (const auto now = reading.Text()) {
+    } else if (const auto* now = reading.Text()) {
       AddState(families, property, *now);
     }
   }
@@ -86,7 +86,7 @@ void AddInfo(Families& families, const Readings& readings) {
   Labels labels;
   for (const auto& [label, id] :
        {std::pair("manufacturer", Name), std::pair("technology", Technology)}) {
-    if (const auto word = readings[id].Text()) {
+    if (const auto* word = readings[id].Text()) {
       labels.emplace_back(label, *word);
     }
   }
@@ -126,7 +126,7 @@ std::string Exposition(const Judged& supplies) {
     AddValues(families, readings, false);
     AddValues(families, readings, true);
     for (const LifetimeField& field : LifetimeFields) {
-      if (const auto* record = readings.Record()) {
+      if (const auto* record = readings[LifetimeData].Record()) {
         families.Add(field.quantity.metric, field.Value(*record), {{"extreme", field.extreme}});
       }
     }

@@ -48,7 +48,7 @@ std::string Reading::ForPeople() const {
   if (!Succeeded()) {
     return "-";
   }
-  if (const bool* flag = std::get_if<bool>(&value)) {
+  if (const auto* flag = As<bool>()) {
     return *flag ? "yes" : "no";
   }
   const auto number = Number();

@@ -11,8 +11,7 @@
 
 namespace fuelgauge {
 
-/// The properties that have a file, as they were read one after the other, in the order of their
-/// numbers.
+/// All properties that have a file, as they were read one after the other: each at the place of its number.
 class Readings {
  public:
   /// @param supply the name under which the kernel has it

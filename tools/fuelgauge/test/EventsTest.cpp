@@ -14,7 +14,7 @@ TEST(Events, WhatIsSaidOfTheSupplyOrItsChipConcernsIt) {
            {true, "|SUBSYSTEM=power_supply|DEVPATH=/i2c-0/0-0055/power_supply/bq27542-0"},
            {true, "|ACTION=add|DEVPATH=/0-0055/power_supply/bq27542-0/hwmon1|SUBSYSTEM=hwmon|"},
            {false, "|ACTION=remove|DEVPATH=/0-0055/power_supply/bq27542-0/hwmon1|SUBSYSTEM=hwmon|"},
-           {true, "|ACTION=bind|DEVPATH=/0-0055|SUBSYSTEM=i2c|MODALIAS=of:NgaugeCti,bq27542|"},
+           {true, "|ACTION=bind|DEVPATH=/0-0055|SUBSYSTEM=i2c|MODALIAS=of:NbatT(null)Cti,bq27542|"},
            {false, "|ACTION=bind|DEVPATH=/0-0056|SUBSYSTEM=i2c|MODALIAS=i2c:bq24190|"},
            {false, "|ACTION=add|DEVPATH=/0-0055|SUBSYSTEM=i2c|MODALIAS=i2c:bq27542|"},
            {false, "|DEVPATH=/i2c-0/0-0055/power_supply/bq27542-01|SUBSYSTEM=power_supply|"},

@@ -29,8 +29,8 @@ TEST(Summary, GapsMoveNoCharge) {
       {{{100, -360000}, {110, -720000}, {150, -720000}}, "charge moved: -9.5 mAh"},
       {{{0, 3600000}, {10, {}}, {20, {}}, {59, 3600000}, {69, 3600000}, {110, 3600000}},
        "charge moved: 10.0 mAh, not counting 2 gaps of 1 min 40 s in all" + unknown},
-      {{{0, 3600000}, {10, 3600000}, {3720, 3600000}, {3730, 3600000}, {3740, {}}},
-       "charge moved: 20.0 mAh, not counting 2 gaps of 1 h 2 min 0 s in all" + unknown},
+      {{{0, 3600000}, {10, 3600000}, {3600, 3600000}, {3610, 3600000}, {3620, {}}},
+       "charge moved: 20.0 mAh, not counting 2 gaps of 1 h 0 min 0 s in all" + unknown},
       {{{0, {}}, {10, {}}}, "VoltageNow: 3.700 V to 3.700 V, mean 3.700 V"},  // and no charge
   };
   for (const auto& [samples, last] : cases) {

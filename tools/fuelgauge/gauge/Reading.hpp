@@ -26,8 +26,8 @@ struct Reading {
   /// @return the number, a flag as 0 or 1; none when it was not read or is no number
   std::optional<int> Number() const;
 
-  /// @return the text, or the record; as long as the reading lives; null when it was not read, or is something
-  ///         else
+  /// @return the text, or the record: it lives as long as the reading. Null when the property was not read,
+  ///         or is something else.
   const std::string* Text() const { return As<std::string>(); }
   const dral::LifetimeData* Record() const { return As<dral::LifetimeData>(); }
 
